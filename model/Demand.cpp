@@ -1,0 +1,29 @@
+#include "model/Demand.h"
+
+#include "model/Link.h"
+
+Demand::Demand(const EnumElementType& kind) : Demand(kind, Point2D()) {}
+
+Demand::Demand(const EnumElementType& kind, const Point2D& position) : Node(kind, position) {
+  setSeriesInput(std::make_shared<DemandSeriesInput>());
+}
+
+std::shared_ptr<Demand> Demand::copy() const {
+  auto demand = makeEmpty();
+  demand->bdId = bdId;
+  demand->setName(getName());
+  demand->setX(getX());
+  demand->setY(getY());
+  demand->hostValues = hostValues;
+  demand->hostSecondValues = hostSecondValues;
+  demand->hostState = hostState;
+  for (const auto& [type, serie] : getSeriesInput()->all())
+    demand->getSeriesInput()->set(type, std::make_shared<Serie>(*serie));
+  return demand;
+}
+
+void Demand::addDownstream(const std::shared_ptr<Link>& link) { Node::addDownstream(link); }
+
+void Demand::removeDownstream(const std::shared_ptr<Link>& link) { Node::removeDownstream(link); }
+
+std::shared_ptr<Demand> Demand::makeEmpty() const { return std::make_shared<Demand>(*getElementType()); }

@@ -1,0 +1,9 @@
+#include "model/DrainDemand.h"
+
+DrainDemand::DrainDemand() : Demand(DrainDemandType(), Point2D{0.0, 0.0}) {}
+
+std::shared_ptr<Demand> DrainDemand::makeEmpty() const {
+  auto drain = std::make_shared<DrainDemand>();
+  drain->hostDrainState = hostDrainState;
+  return drain;
+}

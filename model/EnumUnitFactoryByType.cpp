@@ -1,0 +1,10 @@
+#include "model/EnumUnitFactoryByType.h"
+
+#include <stdexcept>
+
+Enum<Unit> EnumUnitFactoryByType::makeUnit(const Unit& unit) {
+  for (const auto& value : unitValues)
+    if (value->id == static_cast<std::int32_t>(unit))
+      return *value;
+  throw std::invalid_argument("EnumUnitFactoryByType::makeUnit: invalid unit");
+}

@@ -1,0 +1,3 @@
+#include "model/ExecutionContinuous.h"
+
+ExecutionContinuous::ExecutionContinuous() : ExecutionMethod(Continuous()) {}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "model/ExecutionMethod.h"
+
+/// One run over the whole interval, without windows.
+class TELU_QT_EXPORT ExecutionContinuous : public ExecutionMethod {
+public:
+  ExecutionContinuous();
+};

@@ -1,0 +1,3 @@
+#include "model/Junction.h"
+
+Junction::Junction() : Node(JunctionType(), Point2D()) {}

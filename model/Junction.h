@@ -1,0 +1,9 @@
+#pragma once
+
+#include "model/Node.h"
+
+/// A node where waters only meet or part.
+class TELU_QT_EXPORT Junction : public Node {
+public:
+  Junction();
+};

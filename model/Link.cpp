@@ -1,0 +1,5 @@
+#include "model/Link.h"
+
+Link::Link(const EnumElementType& kind) : Element(kind) {}
+
+Link::~Link() = default;

@@ -1,0 +1,6 @@
+#pragma once
+
+struct Point2D {
+  double x = 0.0;
+  double y = 0.0;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "model/PrioritySettings.h"
+
+/// The settings of a demand or drain; the series of a state is its demand in m³/s.
+class TELU_QT_EXPORT PriorityDemandSettings : public PrioritySettings {
+public:
+  explicit PriorityDemandSettings(unsigned numOfStates);
+};

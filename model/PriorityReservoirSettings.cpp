@@ -1,0 +1,4 @@
+#include "model/PriorityReservoirSettings.h"
+
+PriorityReservoirSettings::PriorityReservoirSettings(unsigned numOfStates)
+    : PrioritySettings(numOfStates, SerieType::TargetVolume, Unit::Dimensionless) {}

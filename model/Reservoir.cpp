@@ -1,0 +1,3 @@
+#include "model/Reservoir.h"
+
+Reservoir::Reservoir() : Node(ReservoirType(), Point2D()) {}

@@ -1,0 +1,3 @@
+#include "model/ScenarioManager.h"
+
+unsigned ScenarioManager::instance = 1;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/Enum.h"
+
+#include <map>
+
+/// The direction in which a link carries water, against the one it was drawn in.
+enum class Sense : std::int32_t { Original = 0, Inverted = 1 };
+
+class OriginalSenseType : public Enum<Sense> {
+public:
+  OriginalSenseType() : Enum(static_cast<std::int32_t>(Sense::Original), "Original") {}
+};
+
+class InvertedSenseType : public Enum<Sense> {
+public:
+  InvertedSenseType() : Enum(static_cast<std::int32_t>(Sense::Inverted), "Invertido") {}
+};
+
+const std::map<Sense, Enum<Sense>> sensesByType{{Sense::Original, OriginalSenseType()},
+                                                {Sense::Inverted, InvertedSenseType()}};
+const std::map<std::string, Enum<Sense>> sensesByName{{OriginalSenseType().name, OriginalSenseType()},
+                                                      {InvertedSenseType().name, InvertedSenseType()}};

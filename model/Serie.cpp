@@ -1,0 +1,40 @@
+#include "model/Serie.h"
+
+#include <algorithm>
+
+Serie::Serie(const Interval& interval, const Enum<SerieType>& type, const Enum<Unit>& unit)
+    : interval_(interval), type_(type), unit_(unit) {}
+
+void Serie::setInterval(const Interval& interval) {
+  interval_ = interval;
+  if (!values_.empty() && !interval.isEmpty()) {
+    cover(stepOf(interval.getBegin()), stepOf(interval.getEnd()));
+    values_.shrink_to_fit();
+  }
+}
+
+void Serie::fill(double value) { fill(value, interval_); }
+
+void Serie::fill(double value, const Interval& interval) {
+  if (interval_.isEmpty())
+    interval_ = interval;
+  if (interval.isEmpty())
+    return;
+  const std::size_t firstStep = stepOf(interval.getBegin());
+  const std::size_t lastStep = stepOf(interval.getEnd());
+  cover(firstStep, lastStep);
+  const auto first = values_.begin() + static_cast<std::ptrdiff_t>(firstStep - firstStep_);
+  std::fill(first, first + static_cast<std::ptrdiff_t>(lastStep - firstStep + 1), value);
+}
+
+/// Widens the values, with 0.0, until they hold both steps.
+void Serie::cover(std::size_t firstStep, std::size_t lastStep) {
+  if (values_.empty())
+    firstStep_ = firstStep;
+  if (firstStep < firstStep_) {
+    values_.insert(values_.begin(), firstStep_ - firstStep, 0.0);
+    firstStep_ = firstStep;
+  }
+  if (lastStep - firstStep_ >= values_.size())
+    values_.resize(lastStep - firstStep_ + 1, 0.0);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "model/Interval.h"
+#include "model/SerieType.h"
+#include "model/Unit.h"
+#include "telu_qt_export.h"
+
+#include <cstddef>
+#include <vector>
+
+/// A time series: a kind, a unit, an interval, and one value per monthly step. A date stands for the step
+/// that it lies in. Values may be written at any date, before the interval is set and outside it; they stay
+/// when it is set. What was never written reads as 0.0.
+class TELU_QT_EXPORT Serie {
+public:
+  Serie(const Interval& interval, const Enum<SerieType>& type, const Enum<Unit>& unit);
+
+  [[nodiscard]] const Enum<SerieType>& getSerieType() const { return type_; }
+  [[nodiscard]] const Enum<Unit>& getUnit() const { return unit_; }
+  [[nodiscard]] const Interval& getInterval() const { return interval_; }
+  void setInterval(const Interval& interval);
+
+  [[nodiscard]] double getValue(const Date& date) const;
+  void setValue(const Date& date, double value);
+
+  /// Every step of the series' interval; nothing where that is empty.
+  void fill(double value);
+  /// Every step of the given interval; a series without an interval takes this one.
+  void fill(double value, const Interval& interval);
+
+private:
+  [[nodiscard]] static std::size_t stepOf(const Date& date) {
+    return std::size_t{date.getYear()} * 12U + date.getMonth();
+  }
+  void cover(std::size_t firstStep, std::size_t lastStep);
+
+  Interval interval_;
+  Enum<SerieType> type_;
+  Enum<Unit> unit_;
+  std::size_t firstStep_ = 0;  ///< the step of values_[0]
+  std::vector<double> values_; ///< dense from the first step covered to the last
+};
+
+inline double Serie::getValue(const Date& date) const {
+  const std::size_t index = stepOf(date) - firstStep_; // a step before the first wraps to beyond the last
+  return index < values_.size() ? values_[index] : 0.0;
+}
+
+inline void Serie::setValue(const Date& date, double value) {
+  const std::size_t step = stepOf(date);
+  if (step - firstStep_ >= values_.size())
+    cover(step, step);
+  values_[step - firstStep_] = value;
+}
