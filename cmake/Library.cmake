@@ -1,21 +1,18 @@
 # The import library. It stands on telu-qt and the standard library alone.
 add_library(telu-lagomare-project
   access/Answer.cpp
-  access/Console.cpp
+  access/Interpreter.cpp
   access/FieldError.cpp
   access/Fields.cpp
   access/LagomareProjectManager.cpp
   access/Numbers.cpp
   access/ValueResult.cpp
-  elements/common/BdIds.cpp
   elements/common/Demands.cpp
   elements/common/Elements.cpp
-  elements/common/LegacyUnits.cpp
   elements/common/Links.cpp
   elements/common/Nodes.cpp
   elements/common/Reservoirs.cpp
   elements/common/Series.cpp
-  elements/common/SettingsOf.cpp
   elements/common/States.cpp
   elements/common/Steps.cpp
   elements/2010/DemandProjectManager.cpp
@@ -38,6 +35,7 @@ add_library(telu-lagomare-project
   elements/2013/SerieProjectManager.cpp
   loader/2010/SceneryProjectManager.cpp
   loader/2013/SceneryProjectManager.cpp
+  loader/common/ElementLoop.cpp
   loader/common/ScenarioParts.cpp
   loader/BidirectionalLinks.cpp
   loader/LagomareProjectLoader.cpp

@@ -9,8 +9,7 @@
 class Calendar {
 public:
   /// Days from a date to the interval's next step; monthly steps are the first days of the months.
-  [[nodiscard]] static unsigned incInterval(const Date& date,
-                                            const Interval& /*monthly, the one periodicity*/) {
+  [[nodiscard]] static unsigned incInterval(const Date& date, const Interval& /*monthly, the one periodicity*/) {
     return Date::daysInMonth(date.getYear(), date.getMonth()) - date.getDay() + 1U;
   }
 };

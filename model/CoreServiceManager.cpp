@@ -37,8 +37,7 @@ std::shared_ptr<Link> makeSuccessor(const Link& link, ElementType type) {
 
 } // namespace
 
-void CoreServiceManager::deleteElementNoDatabase(std::shared_ptr<Scenario> scenario,
-                                                 std::shared_ptr<Element> element) {
+void CoreServiceManager::deleteElementNoDatabase(std::shared_ptr<Scenario> scenario, std::shared_ptr<Element> element) {
   if (!scenario->removeElement(element))
     return;
   if (const auto link = std::dynamic_pointer_cast<Link>(element)) {
@@ -50,15 +49,13 @@ void CoreServiceManager::deleteElementNoDatabase(std::shared_ptr<Scenario> scena
   }
 }
 
-std::shared_ptr<Link> CoreServiceManager::changeLinkTypeNoDatabase(std::shared_ptr<Link> link,
-                                                                   ElementType type,
+std::shared_ptr<Link> CoreServiceManager::changeLinkTypeNoDatabase(std::shared_ptr<Link> link, ElementType type,
                                                                    std::shared_ptr<Scenario> scenario) {
   if (linkTypes.count(type) == 0)
     throw std::invalid_argument("CoreServiceManager::changeLinkTypeNoDatabase: invalid element type");
   auto successor = makeSuccessor(*link, type);
   if (!scenario->replaceLink(link, successor))
-    throw std::invalid_argument(
-        "CoreServiceManager::changeLinkTypeNoDatabase: the link is not in the scenario");
+    throw std::invalid_argument("CoreServiceManager::changeLinkTypeNoDatabase: the link is not in the scenario");
   for (const auto& end : {link->upstream.lock(), link->downstream.lock()})
     if (end)
       end->replaceLink(link, successor);

@@ -8,11 +8,10 @@ namespace {
 constexpr unsigned lastYear = 9999;
 
 void check(unsigned year, unsigned month, unsigned day) {
-  if (year >= 1 && year <= lastYear && month >= 1 && month <= 12 && day >= 1 &&
-      day <= Date::daysInMonth(year, month))
+  if (year >= 1 && year <= lastYear && month >= 1 && month <= 12 && day >= 1 && day <= Date::daysInMonth(year, month))
     return;
-  throw std::invalid_argument("Date: there is no day " + std::to_string(day) + "/" + std::to_string(month) +
-                              "/" + std::to_string(year) + " (days exist from 1/1/1 to 31/12/9999)");
+  throw std::invalid_argument("Date: there is no day " + std::to_string(day) + "/" + std::to_string(month) + "/" +
+                              std::to_string(year) + " (days exist from 1/1/1 to 31/12/9999)");
 }
 
 /// Takes one to `most` digits off the front of the text.

@@ -23,9 +23,7 @@ public:
   [[nodiscard]] const std::shared_ptr<EnumElementType>& getElementType() const { return kind_; }
 
   /// The series given for the first execution window, shared; never empty.
-  [[nodiscard]] const std::shared_ptr<Container<SerieType>>& getSeriesInput() const {
-    return windows_.front();
-  }
+  [[nodiscard]] const std::shared_ptr<Container<SerieType>>& getSeriesInput() const { return windows_.front(); }
   void setSeriesInput(std::shared_ptr<Container<SerieType>> series) { windows_.front() = std::move(series); }
   /// Adds the series of a further execution window.
   void addWindow(std::shared_ptr<Container<SerieType>> series) { windows_.push_back(std::move(series)); }

@@ -23,8 +23,7 @@ const SeriesTable linkSeries{{SerieType::LinkLoss, Unit::Perc}, {SerieType::Link
 
 std::shared_ptr<Element> prepare(std::shared_ptr<Element> element, const SeriesTable& table) {
   for (const auto& [type, unit] : table)
-    element->getSeriesInput()->set(type, std::make_shared<Serie>(Interval(),
-                                                                 EnumSerieTypeFactory::makeSerieType(type),
+    element->getSeriesInput()->set(type, std::make_shared<Serie>(Interval(), EnumSerieTypeFactory::makeSerieType(type),
                                                                  EnumUnitFactoryByType::makeUnit(unit)));
   return element;
 }

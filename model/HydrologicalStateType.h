@@ -3,12 +3,7 @@
 #include "model/Enum.h"
 
 /// How a scenario tells the hydrological state it is in.
-enum class HydrologicalStateType : std::int32_t {
-  None = 0,
-  Default = 1,
-  ByReservoir = 2,
-  ByReservoirMonthly = 3
-};
+enum class HydrologicalStateType : std::int32_t { None = 0, Default = 1, ByReservoir = 2, ByReservoirMonthly = 3 };
 
 class NoHydrologicalType : public Enum<HydrologicalStateType> {
 public:
@@ -29,6 +24,5 @@ public:
 class MonthlyReservoirHydrologicalType : public Enum<HydrologicalStateType> {
 public:
   MonthlyReservoirHydrologicalType()
-      : Enum(static_cast<std::int32_t>(HydrologicalStateType::ByReservoirMonthly),
-             "Por reservatório mensal") {}
+      : Enum(static_cast<std::int32_t>(HydrologicalStateType::ByReservoirMonthly), "Por reservatório mensal") {}
 };

@@ -29,12 +29,8 @@ public:
   void replaceLink(const std::shared_ptr<Link>& oldLink, const std::shared_ptr<Link>& newLink);
 
   /// In the order in which they were added.
-  [[nodiscard]] const std::list<std::shared_ptr<Link>>& getUpstreamLinks() const {
-    return upstream_.values();
-  }
-  [[nodiscard]] const std::list<std::shared_ptr<Link>>& getDownstreamLinks() const {
-    return downstream_.values();
-  }
+  [[nodiscard]] const std::list<std::shared_ptr<Link>>& getUpstreamLinks() const { return upstream_.values(); }
+  [[nodiscard]] const std::list<std::shared_ptr<Link>>& getDownstreamLinks() const { return downstream_.values(); }
 
 private:
   using Links = OrderedIndex<const Link*, std::shared_ptr<Link>>;

@@ -8,12 +8,11 @@ class SceneryCheck;
 /// A scenario whose demands and reservoirs are served in the order of their priorities.
 class TELU_QT_EXPORT PriorityScenario : public Scenario {
 public:
-  PriorityScenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned id,
-                   const Interval& interval, const std::string& name);
+  PriorityScenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned id, const Interval& interval,
+                   const std::string& name);
 
   /// Shared; never empty.
-  [[nodiscard]] const std::shared_ptr<HydrologicalStateConfiguration>&
-  getHydrologicalStateConfiguration() const {
+  [[nodiscard]] const std::shared_ptr<HydrologicalStateConfiguration>& getHydrologicalStateConfiguration() const {
     return hydrologicalStates_;
   }
 

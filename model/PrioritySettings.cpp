@@ -6,8 +6,7 @@
 #include <stdexcept>
 
 PrioritySettings::PrioritySettings(unsigned numOfStates, SerieType type, Unit unit) {
-  const Serie empty(Interval(), EnumSerieTypeFactory::makeSerieType(type),
-                    EnumUnitFactoryByType::makeUnit(unit));
+  const Serie empty(Interval(), EnumSerieTypeFactory::makeSerieType(type), EnumUnitFactoryByType::makeUnit(unit));
   for (unsigned state = 1; state <= numOfStates; ++state)
     prioritySeries_.emplace_back(0U, std::make_shared<Serie>(empty));
 }

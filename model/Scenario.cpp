@@ -8,13 +8,13 @@
 namespace {
 
 template <typename T>
-void add(OrderedIndex<unsigned, std::shared_ptr<T>>& index, const std::shared_ptr<T>& element,
-         unsigned window, unsigned id, const char* operation, const char* kind) {
+void add(OrderedIndex<unsigned, std::shared_ptr<T>>& index, const std::shared_ptr<T>& element, unsigned window,
+         unsigned id, const char* operation, const char* kind) {
   if (window != 0)
     throw std::out_of_range("Invalid window index");
   if (!index.add(id, element))
-    throw std::invalid_argument(std::string(operation) + ": the scenario already holds a " + kind +
-                                " with the id " + std::to_string(id));
+    throw std::invalid_argument(std::string(operation) + ": the scenario already holds a " + kind + " with the id " +
+                                std::to_string(id));
 }
 
 template <typename T>
@@ -25,8 +25,8 @@ bool holds(const OrderedIndex<unsigned, std::shared_ptr<T>>& index, const std::s
 
 } // namespace
 
-Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned id,
-                   const Interval& interval, const std::string& name)
+Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned id, const Interval& interval,
+                   const std::string& name)
     : executionMethod_(executionMethod), id_(id), interval_(interval), name_(name) {}
 
 Scenario::~Scenario() = default;

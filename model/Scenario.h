@@ -27,9 +27,7 @@ public:
   [[nodiscard]] unsigned getId() const { return id_; }
   [[nodiscard]] const std::string& getName() const { return name_; }
   [[nodiscard]] const Interval& getInterval() const { return interval_; }
-  [[nodiscard]] const std::shared_ptr<ExecutionMethod>& getExecutionMethod() const {
-    return executionMethod_;
-  }
+  [[nodiscard]] const std::shared_ptr<ExecutionMethod>& getExecutionMethod() const { return executionMethod_; }
   [[nodiscard]] SettingsManager& getSettingsManager() { return settingsManager_; }
   [[nodiscard]] const SettingsManager& getSettingsManager() const { return settingsManager_; }
 

@@ -116,22 +116,19 @@ public:
 class UncontrolledAffluentVolume : public Enum<SerieType> {
 public:
   UncontrolledAffluentVolume()
-      : Enum(static_cast<std::int32_t>(SerieType::UncontrolledAffluentVolume),
-             "Volume não controlado a montante") {}
+      : Enum(static_cast<std::int32_t>(SerieType::UncontrolledAffluentVolume), "Volume não controlado a montante") {}
 };
 
 class UncontrolledAffluentFlow : public Enum<SerieType> {
 public:
   UncontrolledAffluentFlow()
-      : Enum(static_cast<std::int32_t>(SerieType::UncontrolledAffluentFlow),
-             "Vazão não controlada a montante") {}
+      : Enum(static_cast<std::int32_t>(SerieType::UncontrolledAffluentFlow), "Vazão não controlada a montante") {}
 };
 
 class ControlledAffluentVolume : public Enum<SerieType> {
 public:
   ControlledAffluentVolume()
-      : Enum(static_cast<std::int32_t>(SerieType::ControlledAffluentVolume), "Volume controlado a montante") {
-  }
+      : Enum(static_cast<std::int32_t>(SerieType::ControlledAffluentVolume), "Volume controlado a montante") {}
 };
 
 class EffluentVolume : public Enum<SerieType> {
@@ -177,8 +174,7 @@ public:
 class SatisfiedDemandPercentage : public Enum<SerieType> {
 public:
   SatisfiedDemandPercentage()
-      : Enum(static_cast<std::int32_t>(SerieType::SatisfiedDemandPercentage),
-             "Demanda atendida em porcentagem") {}
+      : Enum(static_cast<std::int32_t>(SerieType::SatisfiedDemandPercentage), "Demanda atendida em porcentagem") {}
 };
 
 class SatisfiedDemandVolume : public Enum<SerieType> {
@@ -216,8 +212,7 @@ public:
 
 class TargetDemandVolume : public Enum<SerieType> {
 public:
-  TargetDemandVolume()
-      : Enum(static_cast<std::int32_t>(SerieType::TargetDemandVolume), "Demanda meta em volume") {}
+  TargetDemandVolume() : Enum(static_cast<std::int32_t>(SerieType::TargetDemandVolume), "Demanda meta em volume") {}
 };
 
 class ServiceFailure : public Enum<SerieType> {
@@ -232,8 +227,7 @@ public:
 
 class OverSupplyVolume : public Enum<SerieType> {
 public:
-  OverSupplyVolume()
-      : Enum(static_cast<std::int32_t>(SerieType::OverSupplyVolume), "Excesso de oferta em volume") {}
+  OverSupplyVolume() : Enum(static_cast<std::int32_t>(SerieType::OverSupplyVolume), "Excesso de oferta em volume") {}
 };
 
 class WaterLoss : public Enum<SerieType> {
@@ -243,8 +237,7 @@ public:
 
 class PrecipitationVolume : public Enum<SerieType> {
 public:
-  PrecipitationVolume()
-      : Enum(static_cast<std::int32_t>(SerieType::PrecipitationVolume), "Volume precipitado") {}
+  PrecipitationVolume() : Enum(static_cast<std::int32_t>(SerieType::PrecipitationVolume), "Volume precipitado") {}
 };
 
 class EvaporationVolume : public Enum<SerieType> {
@@ -271,43 +264,41 @@ public:
 
 /// What a planner gives. The order is that of display, not of the ids.
 const std::vector<std::shared_ptr<Enum<SerieType>>> inputSerieTypes{
-    std::make_shared<Precipitation>(),       std::make_shared<Evapotranspiration>(),
-    std::make_shared<NaturalAffluentFlow>(), std::make_shared<TargetVolume>(),
-    std::make_shared<WaterDemand>(),         std::make_shared<LinkLoss>(),
+    std::make_shared<Precipitation>(), std::make_shared<Evapotranspiration>(), std::make_shared<NaturalAffluentFlow>(),
+    std::make_shared<TargetVolume>(),  std::make_shared<WaterDemand>(),        std::make_shared<LinkLoss>(),
     std::make_shared<LinkLimitSerie>()};
 
 /// What a run computes. The order is that of display, not of the ids.
-const std::vector<std::shared_ptr<Enum<SerieType>>> resultSerieTypes{
-    std::make_shared<InitialVolume>(),
-    std::make_shared<FinalVolume>(),
-    std::make_shared<ControlledAffluentFlow>(),
-    std::make_shared<EffluentFlow>(),
-    std::make_shared<AffluentFlow>(),
-    std::make_shared<UncontrolledAffluentVolume>(),
-    std::make_shared<UncontrolledAffluentFlow>(),
-    std::make_shared<ControlledAffluentVolume>(),
-    std::make_shared<EffluentVolume>(),
-    std::make_shared<Quota>(),
-    std::make_shared<Area>(),
-    std::make_shared<Release>(),
-    std::make_shared<ReleaseVolume>(),
-    std::make_shared<Spill>(),
-    std::make_shared<SpillVolume>(),
-    std::make_shared<SatisfiedDemand>(),
-    std::make_shared<SatisfiedDemandPercentage>(),
-    std::make_shared<SatisfiedDemandVolume>(),
-    std::make_shared<ConsumedDemand>(),
-    std::make_shared<ConsumedDemandVolume>(),
-    std::make_shared<SupplyShortage>(),
-    std::make_shared<SupplyShortageVolume>(),
-    std::make_shared<TargetDemand>(),
-    std::make_shared<TargetDemandVolume>(),
-    std::make_shared<ServiceFailure>(),
-    std::make_shared<OverSupply>(),
-    std::make_shared<OverSupplyVolume>(),
-    std::make_shared<WaterLoss>(),
-    std::make_shared<PrecipitationVolume>(),
-    std::make_shared<EvaporationVolume>(),
-    std::make_shared<PrioritySerie>(),
-    std::make_shared<PumpingCostSerie>(),
-    std::make_shared<LinkSenseSerie>()};
+const std::vector<std::shared_ptr<Enum<SerieType>>> resultSerieTypes{std::make_shared<InitialVolume>(),
+                                                                     std::make_shared<FinalVolume>(),
+                                                                     std::make_shared<ControlledAffluentFlow>(),
+                                                                     std::make_shared<EffluentFlow>(),
+                                                                     std::make_shared<AffluentFlow>(),
+                                                                     std::make_shared<UncontrolledAffluentVolume>(),
+                                                                     std::make_shared<UncontrolledAffluentFlow>(),
+                                                                     std::make_shared<ControlledAffluentVolume>(),
+                                                                     std::make_shared<EffluentVolume>(),
+                                                                     std::make_shared<Quota>(),
+                                                                     std::make_shared<Area>(),
+                                                                     std::make_shared<Release>(),
+                                                                     std::make_shared<ReleaseVolume>(),
+                                                                     std::make_shared<Spill>(),
+                                                                     std::make_shared<SpillVolume>(),
+                                                                     std::make_shared<SatisfiedDemand>(),
+                                                                     std::make_shared<SatisfiedDemandPercentage>(),
+                                                                     std::make_shared<SatisfiedDemandVolume>(),
+                                                                     std::make_shared<ConsumedDemand>(),
+                                                                     std::make_shared<ConsumedDemandVolume>(),
+                                                                     std::make_shared<SupplyShortage>(),
+                                                                     std::make_shared<SupplyShortageVolume>(),
+                                                                     std::make_shared<TargetDemand>(),
+                                                                     std::make_shared<TargetDemandVolume>(),
+                                                                     std::make_shared<ServiceFailure>(),
+                                                                     std::make_shared<OverSupply>(),
+                                                                     std::make_shared<OverSupplyVolume>(),
+                                                                     std::make_shared<WaterLoss>(),
+                                                                     std::make_shared<PrecipitationVolume>(),
+                                                                     std::make_shared<EvaporationVolume>(),
+                                                                     std::make_shared<PrioritySerie>(),
+                                                                     std::make_shared<PumpingCostSerie>(),
+                                                                     std::make_shared<LinkSenseSerie>()};

@@ -4,8 +4,7 @@ const char* TeluCoreProgressBar::ProgressCancelException::what() const noexcept 
   return "TeluCoreProgressBar canceled";
 }
 
-TeluCoreProgressBar::TeluCoreProgressBar(unsigned start, unsigned end,
-                                         std::function<bool(long, long)> callback)
+TeluCoreProgressBar::TeluCoreProgressBar(unsigned start, unsigned end, std::function<bool(long, long)> callback)
     : start_(start), current_(start), end_(end), callback_(std::move(callback)) {}
 
 bool TeluCoreProgressBar::update() {

@@ -1,0 +1,57 @@
+#include "access/LagomareProjectManager.h"
+
+#include "access/Answer.h"
+#include "access/Interpreter.h"
+
+#include <cstdio>
+#include <fstream>
+#include <stdexcept>
+
+const std::string LagomareProjectManager::scriptFile = "script.bat";
+const std::string LagomareProjectManager::fileResultQuery = "query-result.txt";
+const std::string LagomareProjectManager::elementBdIdField1 = "NumPto";
+const std::string LagomareProjectManager::elementBdIdField2 = "NumPonto";
+LagomareProjectManager* LagomareProjectManager::lagomareProjectManager = nullptr;
+
+LagomareProjectManager* LagomareProjectManager::getInstance(const std::string& databaseFilename) {
+  if (lagomareProjectManager == nullptr)
+    lagomareProjectManager = new LagomareProjectManager(databaseFilename);
+  return lagomareProjectManager;
+}
+
+LagomareProjectManager* LagomareProjectManager::getInstance() {
+  if (lagomareProjectManager == nullptr)
+    throw std::runtime_error("LagomareProjectManager::getInstance(): database filename not initialized");
+  return lagomareProjectManager;
+}
+
+void LagomareProjectManager::cleanInstance() {
+  delete lagomareProjectManager;
+  lagomareProjectManager = nullptr;
+}
+
+LagomareProjectManager::LagomareProjectManager(const std::string& databaseFile) : databaseFilename(databaseFile) {}
+
+LagomareProjectManager::~LagomareProjectManager() {
+  std::remove(scriptFile.c_str());
+  std::remove(fileResultQuery.c_str());
+}
+
+void LagomareProjectManager::setApiExecutable(const std::string& path) { apiExecutable = path; }
+
+void LagomareProjectManager::buildScript(const std::string& sql, bool flag) const {
+  std::ofstream script(scriptFile, std::ios::trunc);
+  script << apiExecutable << " \"" << databaseFilename << "\" \"" << sql << "\" " << (flag ? '1' : '0') << '\n';
+}
+
+QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) const { return parseRows(ask(sql, flag)); }
+
+ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool flag) const {
+  return ValueResult(ask(sql, flag));
+}
+
+std::string LagomareProjectManager::ask(const std::string& sql, bool flag) const {
+  buildScript(sql, flag);
+  runScript(scriptFile);
+  return readAnswer(fileResultQuery);
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "access/QueryResult.h"
+#include "access/ValueResult.h"
+#include "lagomare_export.h"
+
+#include <string>
+
+/// The channel to a legacy database: asks an external query executable, which writes its answer to a file.
+///
+/// One channel per process, owned by the class itself; one query at a time per process and working directory.
+/// Between queries the script and the last answer stay on disk; destroying the channel deletes them.
+class LAGOMARE_EXPORT LagomareProjectManager {
+public:
+  static const std::string scriptFile;                   ///< "script.bat", in the working directory
+  static const std::string fileResultQuery;              ///< "query-result.txt", in the working directory
+  static const std::string elementBdIdField1;            ///< "NumPto"
+  static const std::string elementBdIdField2;            ///< "NumPonto"
+  static LagomareProjectManager* lagomareProjectManager; ///< the channel, or null
+
+  /// The channel; makes it for this database where there is none. An existing channel keeps its database.
+  static LagomareProjectManager* getInstance(const std::string& databaseFilename);
+  /// The channel. Throws std::runtime_error
+  /// "LagomareProjectManager::getInstance(): database filename not initialized" where there is none.
+  [[nodiscard]] static LagomareProjectManager* getInstance();
+  /// Destroys the channel, if any, and with it the two files.
+  static void cleanInstance();
+
+  LagomareProjectManager(const LagomareProjectManager&) = delete;
+  LagomareProjectManager& operator=(const LagomareProjectManager&) = delete;
+
+  void setApiExecutable(const std::string& path);
+
+  /// Writes the one line of the script: executable "database" "sql" flag. Nothing in it is escaped, and the
+  /// executable is not quoted. A script that cannot be written is not reported.
+  void buildScript(const std::string& sql, bool flag) const;
+
+  /// Runs one query. An answer that cannot be opened is empty; that the executable failed is not noticed: an
+  /// old answer would be read again. Throws as parseRows does.
+  [[nodiscard]] QueryResult query(const std::string& sql, bool flag) const;
+  /// The same for a query of an id and one value.
+  [[nodiscard]] ValueResult queryValues(const std::string& sql, bool flag) const;
+
+private:
+  explicit LagomareProjectManager(const std::string& databaseFilename);
+  ~LagomareProjectManager();
+
+  [[nodiscard]] std::string ask(const std::string& sql, bool flag) const;
+
+  std::string databaseFilename;
+  std::string apiExecutable;
+};

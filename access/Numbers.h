@@ -1,0 +1,22 @@
+#pragma once
+
+#include "lagomare_export.h"
+
+#include <cstdint>
+#include <string_view>
+
+// The one place where text becomes a number. Accepted is what the standard conversions accept in the "C"
+// locale, whatever locale the process has set: leading white space, a sign, and whatever follows the number.
+// The errors are theirs too: InvalidField where there is no number, FieldOutOfRange where it does not fit.
+
+/// As std::stoul in base 10 with 32 bits on every platform: "-1" is 4294967295, and 4294967296 is out of
+/// range. what() of the errors is "stoul".
+[[nodiscard]] LAGOMARE_EXPORT std::uint32_t toUnsigned(std::string_view text);
+
+/// As std::stod: decimal and hexadecimal numbers, infinities and NaN. Numbers too small for full precision
+/// (subnormal ones) are out of range. what() of the errors is "stod".
+[[nodiscard]] LAGOMARE_EXPORT double toDouble(std::string_view text);
+
+/// toDouble, truncated toward zero; FieldOutOfRange "stod" where the result does not fit.
+[[nodiscard]] LAGOMARE_EXPORT std::int32_t toTruncatedInt(std::string_view text);
+[[nodiscard]] LAGOMARE_EXPORT std::uint32_t toTruncatedUnsigned(std::string_view text);

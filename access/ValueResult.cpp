@@ -1,0 +1,50 @@
+#include "access/ValueResult.h"
+
+#include "access/Answer.h"
+#include "access/FieldError.h"
+#include "access/Numbers.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t valueIndex = 1;
+
+/// The field behind the key; without data where the key is followed by the line's last field alone.
+std::string_view valueOf(std::string_view line) {
+  const std::size_t begin = line.find(' ') + 1;
+  const std::size_t end = line.find(' ', begin);
+  return end == std::string_view::npos ? std::string_view() : line.substr(begin, end - begin);
+}
+
+} // namespace
+
+double ValueColumn::numberAt(std::size_t row) const {
+  const std::string_view text = texts_.at(row);
+  if (text.data() == nullptr)
+    throw MissingField(id_, valueIndex);
+  try {
+    return toDouble(text);
+  } catch (FieldError& error) {
+    error.setPlace(id_, valueIndex);
+    throw;
+  }
+}
+
+ValueResult::ValueResult(std::string text) : text_(std::move(text)) {
+  forEachLine(text_, [this](std::string_view line) {
+    const std::uint32_t id = keyOf(line);
+    const auto begin = static_cast<std::size_t>(line.data() - text_.data());
+    if (runs_.empty() || runs_.back().id != id)
+      runs_.push_back({id, begin, begin});
+    runs_.back().end = begin + line.size();
+  });
+  const auto byId = [](const Run& a, const Run& b) { return a.id < b.id; };
+  if (!std::is_sorted(runs_.begin(), runs_.end(), byId))
+    std::stable_sort(runs_.begin(), runs_.end(), byId);
+}
+
+void ValueResult::appendValues(const Run& run, ValueColumn& values) const {
+  forEachLine(std::string_view(text_).substr(run.begin, run.end - run.begin),
+              [&values](std::string_view line) { values.texts_.push_back(valueOf(line)); });
+}

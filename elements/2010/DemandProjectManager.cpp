@@ -1,0 +1,67 @@
+#include "elements/2010/DemandProjectManager.h"
+
+#include "elements/2010/SerieProjectManager.h"
+#include "elements/common/Demands.h"
+#include "elements/common/Priorities.h"
+#include "elements/common/Steps.h"
+#include "model/PriorityDemandSettings.h"
+
+namespace Lagomare2010 {
+
+const std::string DemandProjectManager::demandDemandTable = "DemEH";
+const std::string DemandProjectManager::demandPriorityTable = "DemPriorEH";
+
+void DemandProjectManager::makeLambdas() {
+  // Drains take their places before any settings are looked up.
+  steps = {loadDemandSerie, NodeProjectManager::loadGeneralInfo, loadPriority, loadPriorityHydrologicalState,
+           loadWaterDemandHydrologicalState};
+}
+
+void DemandProjectManager::validElement() {
+  requireKind(elements, ElementType::HumanDemand, "DemandProjectManager::validElement(): invalid element type");
+}
+
+unsigned DemandProjectManager::getElementType() { return 3; }
+
+void DemandProjectManager::loadDemandSerie(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  SerieProjectManager::load(SerieType::WaterDemand, loader.scenario->getInterval(), demandDemandTable, loader.elements,
+                            "Dem", "Demd", whereEH1);
+  replaceDrains(loader, loader.elements);
+  finishStep(bar);
+}
+
+void DemandProjectManager::loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  const auto rows = ask("select Dem, Demr from " + demandPriorityTable + " " + whereEH1, false);
+  loadPriorities<PriorityDemandSettings>(rows, loader.elements, *loader.scenario);
+  finishStep(bar);
+}
+
+void DemandProjectManager::loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  if (hasDefaultStates(*loader.scenario))
+    loadStatePriorities<PriorityDemandSettings>(ask("select Dem, Demr from " + demandPriorityTable, false),
+                                                *loader.scenario);
+  finishStep(bar);
+}
+
+void DemandProjectManager::loadWaterDemandHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  for (unsigned state = 1; state <= hydrologicalStatesOf(*loader.scenario).getNumOfStates(); ++state) {
+    const auto values =
+        askValues("select Dem, Demd from " + demandDemandTable + " where EstHidr = " + std::to_string(state), false);
+    loadStateSeries<PriorityDemandSettings>(values, *loader.scenario, state, Layout::MonthlyProfile);
+  }
+  finishStep(bar);
+}
+
+bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
+  return isDrain(*demand, scenario->getInterval());
+}
+
+void DemandProjectManager::transformToDrainDemand(unsigned id, std::shared_ptr<Demand> demand) {
+  elements[id] = makeDrain(*demand);
+}
+
+} // namespace Lagomare2010

@@ -1,0 +1,41 @@
+#include "elements/2010/ElementBdIdFactory.h"
+
+#include "elements/common/Elements.h"
+#include "elements/common/Steps.h"
+
+#include <stdexcept>
+
+namespace Lagomare2010 {
+
+namespace {
+
+std::string idsOfPoints(const char* code) { return std::string("select NumNo from Pontos where Tipo = ") + code; }
+
+std::vector<unsigned> idsAnswering(const std::string& sql) { return ElementBdIdFactory::makeVector(ask(sql, true)); }
+
+} // namespace
+
+const std::map<ElementType, std::function<std::vector<unsigned>()>> ElementBdIdFactory::mapOfLambdas{
+    {ElementType::Reservoir, makeReservoir},
+    {ElementType::HumanDemand, makeDemand},
+    {ElementType::Junction, makeJunction},
+    {ElementType::NaturalLink, makeLink}};
+
+std::vector<unsigned> ElementBdIdFactory::makeVectorOfBdIds(ElementType type) {
+  const auto maker = mapOfLambdas.find(type);
+  if (maker == mapOfLambdas.end())
+    throw std::invalid_argument("ElementBdIdFactory::makeVectorOfBdIds: invalid element type");
+  return maker->second();
+}
+
+std::vector<unsigned> ElementBdIdFactory::makeJunction() { return idsAnswering(idsOfPoints("1")); }
+
+std::vector<unsigned> ElementBdIdFactory::makeReservoir() { return idsAnswering(idsOfPoints("2")); }
+
+std::vector<unsigned> ElementBdIdFactory::makeDemand() { return idsAnswering(idsOfPoints("3")); }
+
+std::vector<unsigned> ElementBdIdFactory::makeLink() { return idsAnswering("select NumLnk from Links"); }
+
+std::vector<unsigned> ElementBdIdFactory::makeVector(const QueryResult& rows) { return idsIn(rows); }
+
+} // namespace Lagomare2010

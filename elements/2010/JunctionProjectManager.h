@@ -1,0 +1,17 @@
+#pragma once
+
+#include "elements/2010/NodeProjectManager.h"
+
+namespace Lagomare2010 {
+
+class LAGOMARE_EXPORT JunctionProjectManager : public NodeProjectManager {
+public:
+  using NodeProjectManager::NodeProjectManager;
+
+  void makeLambdas() override;
+  /// "JunctionProjectManager::validElement(): invalid element type"
+  void validElement() override;
+  [[nodiscard]] unsigned getElementType() override;
+};
+
+} // namespace Lagomare2010

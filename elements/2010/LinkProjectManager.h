@@ -1,0 +1,32 @@
+#pragma once
+
+#include "elements/2010/ElementProjectManager.h"
+
+namespace Lagomare2010 {
+
+/// Loads links. The nodes must be in the scenario: links are joined to what they find there.
+class LAGOMARE_EXPORT LinkProjectManager : public ElementProjectManager {
+public:
+  static const std::string linkGeneralInfoTable;  ///< "Links"
+  static const std::string linkDatas;             ///< "LinksDados"
+  static const std::string linkTrafficLimitTable; ///< "LinksCmaxEH"
+
+  using ElementProjectManager::ElementProjectManager;
+
+  void makeLambdas() override;
+  /// "LinkProjectManager::validElement(): invalid element type"
+  void validElement() override;
+  void addElementInScenery(std::shared_ptr<Element> element) override;
+  [[nodiscard]] unsigned getElementType() override;
+
+  // Each step does nothing at all where its query has no rows.
+
+  /// The flow limits of state 1, m³/s.
+  static void loadTrafficLimit(ElementProjectManager* base, TeluCoreProgressBar& bar);
+  /// The losses, in percent.
+  static void loadLinkDatas(ElementProjectManager* base, TeluCoreProgressBar& bar);
+  /// General information and the two ends.
+  static void loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar);
+};
+
+} // namespace Lagomare2010

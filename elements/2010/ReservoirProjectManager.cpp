@@ -1,0 +1,104 @@
+#include "elements/2010/ReservoirProjectManager.h"
+
+#include "elements/2010/SerieProjectManager.h"
+#include "elements/common/Reservoirs.h"
+#include "elements/common/Steps.h"
+
+namespace Lagomare2010 {
+
+const std::string ReservoirProjectManager::reservoirVolumesTable = "Res";
+const std::string ReservoirProjectManager::reservoirIsHydrologicalSystem = "ResSubsist";
+const std::string ReservoirProjectManager::reservoirCavTable = "ResAVN";
+const std::string ReservoirProjectManager::reservoirEvapTable = "ResEvap";
+const std::string ReservoirProjectManager::reservoirTagetVolumeTable = "ResVmetaEH";
+const std::string ReservoirProjectManager::reservoirPriorityTable = "ResPriorEH";
+
+void ReservoirProjectManager::makeLambdas() {
+  // The nodes enter the scenario first: settings are made for what it holds.
+  steps = {NodeProjectManager::loadGeneralInfo,
+           loadVolumes,
+           loadIsHydrologicalSystem,
+           loadCavInfo,
+           loadEtpPrec,
+           loadTargetVolume,
+           loadPriority,
+           loadPriorityHydrologicalState,
+           loadTargetVolumeHydrologicalState};
+}
+
+void ReservoirProjectManager::validElement() {
+  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager::validElement(): invalid element type");
+}
+
+unsigned ReservoirProjectManager::getElementType() { return 2; }
+
+void ReservoirProjectManager::loadVolumes(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  const auto rows = ask("select * from " + reservoirVolumesTable, false);
+  if (rows.empty())
+    return;
+  forEachElement<Reservoir>(rows, loader.elements, [](const auto& reservoir, const Row& row) {
+    setVolumes(*reservoir, row, {3, 2, 1});
+  });
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadIsHydrologicalSystem(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  const auto rows = ask("select * from " + reservoirIsHydrologicalSystem, false);
+  if (rows.empty())
+    return;
+  forEachElement<Reservoir>(rows, loader.elements, [&loader](const auto& reservoir, const Row& row) {
+    setSystemFlag(*reservoir, row, 1, *loader.scenario);
+  });
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadCavInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  loadCurves(ask("select * from " + reservoirCavTable, true), dynamic_cast<ReservoirProjectManager&>(*base).elements,
+             {3, 1, 2});
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadEtpPrec(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  constexpr double mmPerMetre = 1000.0;
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  const auto rows = ask("select Res, Evap from " + reservoirEvapTable, false);
+  loadNetEvaporation(rows, loader.elements, loader.scenario->getInterval(), mmPerMetre);
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  fillTargets(loader.elements, loader.scenario->getInterval());
+  SerieProjectManager::load(SerieType::TargetVolume, loader.scenario->getInterval(), reservoirTagetVolumeTable,
+                            loader.elements, "Res", "Oprr", whereEH1);
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  const auto rows = ask("select Res, Oprp from " + reservoirPriorityTable + " " + whereEH1, false);
+  loadPriorities<PriorityReservoirSettings>(rows, loader.elements, *loader.scenario);
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  if (hasDefaultStates(*loader.scenario))
+    loadStatePriorities<PriorityReservoirSettings>(ask("select Res, Oprp from " + reservoirPriorityTable, false),
+                                                   *loader.scenario);
+  finishStep(bar);
+}
+
+void ReservoirProjectManager::loadTargetVolumeHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
+  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  for (unsigned state = 1; state <= hydrologicalStatesOf(*loader.scenario).getNumOfStates(); ++state) {
+    const auto values = askValues(
+        "select Res, Oprr from " + reservoirTagetVolumeTable + " where EstHidr = " + std::to_string(state), false);
+    loadStateSeries<PriorityReservoirSettings>(values, *loader.scenario, state, Layout::MonthlyProfile);
+  }
+  finishStep(bar);
+}
+
+} // namespace Lagomare2010

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "elements/2013/NodeProjectManager.h"
+
+class Demand;
+
+namespace Lagomare2013 {
+
+/// Loads demands and turns those that stand for drains into drains. Values in m³/s.
+class LAGOMARE_EXPORT DemandProjectManager : public NodeProjectManager {
+public:
+  static const std::string demandDemandTable;       ///< "LgmDemDemSC"
+  static const std::string demandPriorityTable;     ///< "LgmDemPrior"
+  static const std::string demandGeneralInfoFields; ///< "NumPonto, Nome, Coord_X, Coord_Y"
+  static const std::string demandGeneralInfoTable;  ///< "Tk_Dem_FEA"
+
+  using NodeProjectManager::NodeProjectManager;
+
+  void makeLambdas() override;
+  /// "DemandProjectManager::validElement(): invalid element type"
+  void validElement() override;
+
+  /// The demands of state 1; then drains take the place of the demands that stand for them.
+  static void loadDemandSerie(ElementProjectManager* base, TeluCoreProgressBar& bar);
+  /// General information, then natural flows. Without rows it does nothing at all.
+  static void loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar);
+  /// The priority in state 1, truncated.
+  static void loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar);
+  /// The priority in each state, truncated, where the scenario's states are of the kind "Padrão".
+  static void loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar);
+  /// The demands of each state, whatever the kind of states.
+  static void loadWaterDemandHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar);
+
+  /// See isDrain.
+  [[nodiscard]] bool isDrainDemand(std::shared_ptr<Demand> demand);
+  /// Puts a drain into the loader's map under the id.
+  void transformToDrainDemand(unsigned id, std::shared_ptr<Demand> demand);
+};
+
+} // namespace Lagomare2013

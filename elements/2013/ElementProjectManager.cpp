@@ -1,0 +1,43 @@
+#include "elements/2013/ElementProjectManager.h"
+
+#include "elements/2013/SerieProjectManager.h"
+#include "model/Scenario.h"
+#include "model/TeluCoreProgressBar.h"
+
+namespace Lagomare2013 {
+
+const std::string ElementProjectManager::whereEH1 = "where EstHidr = 1";
+const std::string ElementProjectManager::natFlowTable = "LgmVazNat";
+
+ElementProjectManager::ElementProjectManager(const std::map<unsigned, std::shared_ptr<Element>>& elementsById,
+                                             std::shared_ptr<Scenario> scenarioToFill)
+    : elements(elementsById), scenario(std::move(scenarioToFill)) {}
+
+ElementProjectManager::~ElementProjectManager() = default;
+
+void ElementProjectManager::load(TeluCoreProgressBar& bar) {
+  validElement();
+  if (steps.empty())
+    makeLambdas();
+  for (const auto& step : steps)
+    step(this, bar);
+}
+
+long ElementProjectManager::numOfLambdas() {
+  if (steps.empty())
+    makeLambdas();
+  return static_cast<long>(steps.size());
+}
+
+void ElementProjectManager::loadElementInfo(std::shared_ptr<Element> element, const std::vector<std::string>& row) {
+  identify(*element, row);
+  addElementInScenery(element);
+}
+
+void ElementProjectManager::loadNatFlowSerie() {
+  SerieProjectManager::load(SerieType::NaturalAffluentFlow, scenario->getInterval(), natFlowTable, elements, "");
+}
+
+std::string ElementProjectManager::valuesOf(const std::string& table) { return "select NumPto, Valor from " + table; }
+
+} // namespace Lagomare2013

@@ -1,0 +1,15 @@
+#include "elements/2013/SerieProjectManager.h"
+
+#include "elements/common/Series.h"
+#include "elements/common/Steps.h"
+
+namespace Lagomare2013 {
+
+void SerieProjectManager::load(SerieType type, const Interval& interval, const std::string& table,
+                               const std::map<unsigned, std::shared_ptr<Element>>& elements, const std::string& where) {
+  // The blank before the condition is sent even where there is none.
+  const auto values = askValues("select NumPto, Valor from " + table + " " + where, true);
+  loadSeries(values, elements, type, interval, Layout::Sequence);
+}
+
+} // namespace Lagomare2013

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "elements/2013/ElementProjectManager.h"
+#include "model/Interval.h"
+#include "model/SerieType.h"
+
+namespace Lagomare2013 {
+
+/// Reads one kind of series for all elements of a loader with one query. An id that is not among the elements
+/// is skipped. Throws std::invalid_argument "Invalid serie type!" where an element lacks the series, and
+/// InvalidField or FieldOutOfRange ("stod").
+class LAGOMARE_EXPORT SerieProjectManager {
+public:
+  /// One row per date, in order; dates left over keep what the series held.
+  static void load(SerieType type, const Interval& interval, const std::string& table,
+                   const std::map<unsigned, std::shared_ptr<Element>>& elements, const std::string& where);
+};
+
+} // namespace Lagomare2013

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "elements/common/Elements.h"
+#include "model/DrainDemand.h"
+
+/// Whether the demand stands for a drain: at least 1000 m³/s at every date of the interval. Throws
+/// std::invalid_argument "Invalid serie type!" where it has no demand series.
+[[nodiscard]] bool isDrain(const Demand& demand, const Interval& interval);
+
+/// A drain with the demand's position, id and name, and with series of its own that are empty.
+[[nodiscard]] std::shared_ptr<DrainDemand> makeDrain(const Demand& demand);
+
+/// Asks the loader of each demand, in ascending order of id, whether it is a drain, and has it replaced if
+/// so.
+template <typename Loader>
+void replaceDrains(Loader& loader, const ElementMap& elements) {
+  for (const auto& [id, element] : elements) {
+    const auto demand = std::dynamic_pointer_cast<Demand>(element);
+    if (demand && loader.isDrainDemand(demand))
+      loader.transformToDrainDemand(id, demand);
+  }
+}

@@ -1,0 +1,30 @@
+#include "elements/common/Elements.h"
+
+#include "access/Fields.h"
+
+#include <stdexcept>
+
+void requireKind(const ElementMap& elements, ElementType type, const std::string& fault) {
+  for (const auto& entry : elements)
+    if (!entry.second || entry.second->getElementType()->type() != type)
+      throw std::invalid_argument(fault);
+}
+
+std::vector<unsigned> idsIn(const QueryResult& rows) {
+  std::vector<unsigned> ids;
+  for (const auto& entry : rows)
+    ids.push_back(entry.first);
+  return ids;
+}
+
+void identify(Element& element, const Row& row) {
+  element.setName(textAt(row, 1));
+  element.bdId = unsignedAt(row, 0);
+}
+
+Serie& serieOf(const Element& element, SerieType type) {
+  const auto serie = element.getSeriesInput()->find(type);
+  if (!serie)
+    throw std::invalid_argument("Invalid serie type!");
+  return *serie;
+}

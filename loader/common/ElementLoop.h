@@ -1,0 +1,39 @@
+#pragma once
+
+#include "elements/common/Elements.h"
+#include "model/ElementFactory.h"
+#include "model/Scenario.h"
+#include "model/TeluCoreProgressBar.h"
+
+#include <functional>
+#include <vector>
+
+/// Throws std::length_error where the series of so many elements over the interval cannot be meant: more than 2^30
+/// values (8 GiB) of one kind.
+void requireReasonableSize(std::size_t elements, const Interval& interval);
+
+/// Loads the elements of each kind in turn, under one progress bar, with the ids and the loaders that a dialect's two
+/// factories make. All ids are asked for before the first loader runs. False where the host asked to stop: the loaders
+/// that had not run are skipped.
+template <typename BdIdFactory, typename LoaderFactory>
+bool loadKinds(const std::vector<ElementType>& kinds, const std::shared_ptr<Scenario>& scenario,
+               const std::function<bool(long, long)>& progress) {
+  std::vector<decltype(LoaderFactory::make(kinds.front(), ElementMap(), scenario))> loaders;
+  long steps = 0;
+  for (const ElementType kind : kinds) {
+    ElementMap elements;
+    for (const unsigned id : BdIdFactory::makeVectorOfBdIds(kind))
+      elements[id] = ElementFactory::make(kind);
+    requireReasonableSize(elements.size(), scenario->getInterval());
+    loaders.push_back(LoaderFactory::make(kind, elements, scenario));
+    steps += loaders.back()->numOfLambdas();
+  }
+  TeluCoreProgressBar progressBar(0, static_cast<unsigned>(steps), progress);
+  try {
+    for (const auto& loader : loaders)
+      loader->load(progressBar);
+  } catch (const TeluCoreProgressBar::ProgressCancelException&) {
+    return false;
+  }
+  return true;
+}

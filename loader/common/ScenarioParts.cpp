@@ -1,0 +1,48 @@
+#include "loader/common/ScenarioParts.h"
+
+#include "access/Fields.h"
+#include "access/LagomareProjectManager.h"
+#include "elements/common/States.h"
+#include "model/ExecutionContinuous.h"
+#include "model/PriorityScenario.h"
+#include "model/ScenarioManager.h"
+
+#include <stdexcept>
+
+namespace {
+
+constexpr std::uint32_t lastYear = 9999;
+
+} // namespace
+
+Interval makeInterval(Date start, std::uint32_t durationYears) {
+  if (durationYears > lastYear - start.getYear())
+    throw std::invalid_argument("SceneryProjectManager::loadInterval: a duration of " + std::to_string(durationYears) +
+                                " years from " + std::to_string(start.getYear()) + " leads past the year 9999");
+  Date end = start;
+  end.setYear(start.getYear() + durationYears);
+  --end;
+  end.setDay(1, end.getMonth(), end.getYear());
+  return Interval(start, end, MonthlyType());
+}
+
+Date firstDayOf(std::uint32_t year, std::uint32_t month) {
+  if (month < 1 || month > 12)
+    throw std::invalid_argument("SceneryProjectManager::loadInterval: there is no month " + std::to_string(month));
+  return Date(year, static_cast<unsigned char>(month), 1);
+}
+
+std::shared_ptr<Scenario> makeScenario(const Interval& interval) {
+  const std::shared_ptr<ExecutionMethod> executionMethod = std::make_shared<ExecutionContinuous>();
+  const unsigned id = ScenarioManager::instance++;
+  return std::make_shared<PriorityScenario>(executionMethod, id, interval, "Scenario" + std::to_string(id));
+}
+
+void loadStates(Scenario& scenario, const std::string& boundaryTable) {
+  auto& states = hydrologicalStatesOf(scenario);
+  states.setCurrentHydrologicalStateType(DefaultHydrologicalType());
+  std::vector<double> boundaries;
+  for (const auto& entry : LagomareProjectManager::getInstance()->query("select * from " + boundaryTable, false))
+    boundaries.push_back(numberAt(entry.second.front(), 1));
+  states.setXValues(boundaries);
+}
