@@ -1,0 +1,89 @@
+#include "tools/query/AccessFile.h"
+
+#include "tools/query/AccessText.h"
+#include "tools/query/QueryError.h"
+#include <glib.h> // before mdbtools.h, which relies on it
+#include <mdbtools.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <limits>
+
+namespace LagomareQuery {
+
+void throwDamaged(const std::string& where) {
+  throw QueryError("the Access database is damaged (" + where +
+                   "); open it in Access and use Compact and Repair, or take it from a backup");
+}
+
+namespace {
+
+constexpr std::size_t versionOffset = 0x14;
+constexpr int lastVersion = MDB_VER_ACCDB_2019;
+
+void forgetVariable(const char* name) {
+#ifdef _WIN32
+  _putenv_s(name, "");
+#else
+  unsetenv(name);
+#endif
+}
+
+/// Version of the format; libmdb, which would only print what is wrong, is asked afterwards.
+int versionOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  stream.seekg(versionOffset);
+  const int version = stream.get();
+  if (version < 0 || version > lastVersion)
+    throw QueryError("the Access database is damaged, or of a version later than 2019 (" + std::to_string(version) +
+                     ")");
+  return version;
+}
+
+} // namespace
+
+struct AccessFile::Handle {
+  MdbHandle* mdb;
+  ~Handle() { mdb_close(mdb); }
+};
+
+AccessFile::AccessFile(const std::filesystem::path& file)
+    : m_format(versionOf(file) == MDB_VER_JET3 ? &jet3Format : &jet4Format) {
+  const std::uintmax_t pages = std::filesystem::file_size(file) / m_format->pageSize;
+  m_pageCount = static_cast<std::uint32_t>(std::min<std::uintmax_t>(pages, std::numeric_limits<std::uint32_t>::max()));
+  if (m_pageCount == 0)
+    throwDamaged("it ends within its first page");
+  for (const char* name : {"MDBICONV", "MDBOPTS", "MDBPATH"}) // would change what libmdb does
+    forgetVariable(name);
+  MdbHandle* mdb = mdb_open(file.string().c_str(), MDB_NOFLAGS);
+  if (!mdb)
+    throwDamaged("its first page");
+  m_handle.reset(new Handle{mdb});
+  if (mdb->f->jet_version > MDB_VER_JET4 && mdb->f->db_key != 0)
+    throw QueryError("the Access database is encrypted; remove its password first");
+}
+
+AccessFile::~AccessFile() = default;
+
+void AccessFile::read(std::uint32_t pageNumber, AccessPage& page) const {
+  MdbHandle* mdb = m_handle->mdb;
+  if (pageNumber >= m_pageCount || mdb_read_pg(mdb, pageNumber) != static_cast<ssize_t>(m_format->pageSize))
+    throwDamaged("page " + std::to_string(pageNumber) + " is missing");
+  page.m_size = m_format->pageSize;
+  std::copy_n(mdb->pg_buf, page.m_size, page.m_bytes.begin());
+}
+
+void AccessFile::appendText(AccessBytes stored, std::string& text) const {
+  if (m_format->utf16)
+    return appendUtf16(stored, text);
+  constexpr std::size_t longestCharacter = 4; // bytes in UTF-8
+  const std::size_t room = stored.size() * longestCharacter + 1;
+  const std::size_t before = text.size();
+  text.resize(before + room);
+  const int length = mdb_unicode2ascii(m_handle->mdb, reinterpret_cast<const char*>(stored.data()), stored.size(),
+                                       text.data() + before, room);
+  text.resize(before + static_cast<std::size_t>(std::max(length, 0)));
+}
+
+} // namespace LagomareQuery

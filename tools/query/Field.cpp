@@ -1,0 +1,128 @@
+#include "tools/query/Field.h"
+
+#include "tools/query/Utf8.h"
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace LagomareQuery {
+
+namespace {
+
+constexpr std::string_view noBreakSpace = "\xC2\xA0";
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+constexpr std::string_view rowEnd = ".\n";                      // the field that the reader discards
+constexpr std::size_t chunkBytes = AnswerFile::largestRoom / 4; // each byte may become three
+
+char* append(char* to, std::string_view bytes) { return std::copy(bytes.begin(), bytes.end(), to); }
+
+/// Blanks and line breaks would end the field or the row.
+bool mustBecomeNoBreakSpace(std::string_view character) {
+  const auto first = static_cast<unsigned char>(character.front());
+  if (character.size() == 1)
+    return first <= ' ' || first == 0x7F;
+  return character.size() == 2 && first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+}
+
+std::string_view bytesOf(sqlite3_value* value, const void* data) {
+  return {static_cast<const char*>(data), data ? static_cast<std::size_t>(sqlite3_value_bytes(value)) : 0};
+}
+
+/// Whether the value has no more than four decimals and fifteen digits, and then 10,000 times the value. There is no
+/// shorter text that reads back to the same number then, for texts of up to fifteen digits mean as many different
+/// doubles; and finding it takes a fraction of what the shortest text of any double takes.
+bool isInTenThousandths(double value, std::int64_t& tenThousandths) {
+  constexpr double limit = 1e15;
+  const double scaled = value * 1e4;
+  if (!(std::abs(scaled) < limit))
+    return false;
+  tenThousandths = static_cast<std::int64_t>(scaled + (scaled < 0 ? -0.5 : 0.5));
+  return static_cast<double>(tenThousandths) / 1e4 == value;
+}
+
+char* writeTenThousandths(char* to, std::int64_t value) {
+  if (value < 0)
+    *to++ = '-';
+  const std::int64_t magnitude = std::abs(value);
+  to = writeNumber(to, magnitude / 10000);
+  if (magnitude % 10000 == 0)
+    return to;
+  *to++ = '.';
+  const auto decimals = static_cast<unsigned>(magnitude % 10000);
+  for (const unsigned digit : {decimals / 1000, decimals / 100 % 10, decimals / 10 % 10, decimals % 10})
+    *to++ = static_cast<char>('0' + digit);
+  while (to[-1] == '0')
+    --to;
+  return to;
+}
+
+} // namespace
+
+char* writeNumber(char* to, std::int64_t value) { return std::to_chars(to, to + numberRoom, value).ptr; }
+
+char* writeNumber(char* to, double value) {
+  constexpr double integerLimit = 9.2e18;
+  std::int64_t tenThousandths = 0;
+  if (isInTenThousandths(value, tenThousandths))
+    return writeTenThousandths(to, tenThousandths);
+  const double magnitude = std::abs(value);
+  if (magnitude < integerLimit && std::trunc(value) == value)
+    return writeNumber(to, static_cast<std::int64_t>(value));
+  if (magnitude < std::numeric_limits<double>::min())
+    return append(to, "0"); // subnormal: the reader takes it for out of range
+  return std::to_chars(to, to + numberRoom, value).ptr;
+}
+
+void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
+  const std::size_t roomForNumbers = static_cast<std::size_t>(columns) * (numberRoom + 1) + rowEnd.size();
+  char* to = m_answer.room(roomForNumbers);
+  for (int column = 0; column < columns; ++column) {
+    sqlite3_value* value = sqlite3_column_value(row, column);
+    const int type = sqlite3_value_type(value);
+    if (type == SQLITE_INTEGER) {
+      to = writeNumber(to, std::int64_t{sqlite3_value_int64(value)});
+    } else if (type == SQLITE_FLOAT) {
+      to = writeNumber(to, sqlite3_value_double(value));
+    } else if (type != SQLITE_NULL) {
+      m_answer.taken(to);
+      type == SQLITE_TEXT ? writeText(bytesOf(value, sqlite3_value_text(value)))
+                          : writeHexadecimal(bytesOf(value, sqlite3_value_blob(value)));
+      to = m_answer.room(roomForNumbers);
+    }
+    *to++ = ' ';
+  }
+  m_answer.taken(append(to, rowEnd));
+}
+
+void FieldWriter::writeText(std::string_view text) {
+  while (!text.empty()) {
+    char* to = m_answer.room(AnswerFile::largestRoom);
+    for (std::size_t done = 0; done < chunkBytes && !text.empty();) {
+      const std::size_t length = utf8CharacterLength(text);
+      const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
+      to = append(to, length == 0                         ? replacementCharacter
+                      : mustBecomeNoBreakSpace(character) ? noBreakSpace
+                                                          : character);
+      text.remove_prefix(character.size());
+      done += character.size();
+    }
+    m_answer.taken(to);
+  }
+}
+
+void FieldWriter::writeHexadecimal(std::string_view bytes) {
+  static constexpr char digits[] = "0123456789ABCDEF";
+  while (!bytes.empty()) {
+    const std::string_view chunk = bytes.substr(0, chunkBytes);
+    char* to = m_answer.room(2 * chunk.size());
+    for (const char byte : chunk) {
+      *to++ = digits[static_cast<unsigned char>(byte) >> 4];
+      *to++ = digits[static_cast<unsigned char>(byte) & 0x0F];
+    }
+    m_answer.taken(to);
+    bytes.remove_prefix(chunk.size());
+  }
+}
+
+} // namespace LagomareQuery

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tools/query/AnswerFile.h"
+#include <cstdint>
+#include <sqlite3.h>
+#include <string_view>
+
+namespace LagomareQuery {
+
+/// Writes rows as the reader takes them: each field followed by one blank, then a field that the reader discards.
+/// This is the only place that turns a value into a field.
+class FieldWriter {
+public:
+  explicit FieldWriter(AnswerFile& answer) : m_answer(answer) {}
+
+  /// The current row of a statement that has just been stepped to it.
+  void writeRow(sqlite3_stmt* row, int columns);
+
+private:
+  void writeText(std::string_view text);
+  void writeHexadecimal(std::string_view bytes);
+
+  AnswerFile& m_answer;
+};
+
+/// Longest text of a number, in bytes.
+inline constexpr std::size_t numberRoom = 32;
+
+/// Writes the number's field to `to`, which has numberRoom bytes, and returns the end of it. Whole numbers below
+/// 9.2e18 are plain digits, others the shortest text that reads back to the same number; a subnormal is 0; the
+/// infinities are "inf" and "-inf", which the reader takes for what they are.
+[[nodiscard]] char* writeNumber(char* to, std::int64_t value);
+[[nodiscard]] char* writeNumber(char* to, double value);
+
+} // namespace LagomareQuery

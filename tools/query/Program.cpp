@@ -1,0 +1,107 @@
+#include "tools/query/Program.h"
+
+#include "tools/query/Database.h"
+#include "tools/query/Field.h"
+#include "tools/query/QueryError.h"
+#include "tools/query/StoredOrder.h"
+#include <cstdlib>
+#include <iostream>
+#include <new>
+
+namespace LagomareQuery {
+
+namespace {
+
+constexpr const char* answerName = "query-result.txt";
+constexpr const char* usage =
+    "usage: lagomare-query DATABASE SQL FLAG\n"
+    "\n"
+    "Answers one SELECT from a SQLite or Access database, which it only reads. The answer goes to query-result.txt\n"
+    "in the working directory: a line per row, each field followed by a blank, then a dot.\n"
+    "\n"
+    "  DATABASE   the file; told apart by its first bytes (SQLite, .mdb, .accdb)\n"
+    "  SQL        one statement that selects, in SQLite's SQL; FORMAT(date, 'dd/mm/yyyy') is there\n"
+    "  FLAG       0 or 1; changes nothing\n"
+    "\n"
+    "  --help, --version\n"
+    "\n"
+    "example: lagomare-query project.mdb 'select NumPto, Valor from LgmVazNat' 0\n";
+
+struct Call {
+  std::string database;
+  std::string sql;
+};
+
+Call parseCall(const std::vector<std::string>& words) {
+  if (words.size() != 3)
+    throw QueryError("three words are expected, DATABASE SQL FLAG, but " + std::to_string(words.size()) +
+                     " were given; put quotes around the SQL, and see --help");
+  if (words[2] != "0" && words[2] != "1")
+    throw QueryError("the flag must be 0 or 1, not '" + words[2] + "'");
+  return {words[0], words[1]};
+}
+
+void answer(const Call& call, AnswerFile& file) {
+  const Database database = openDatabase(call.database);
+  const Statement rows = prepareInStoredOrder(database.connection.get(), call.sql);
+  const int columns = sqlite3_column_count(rows.get());
+  FieldWriter writer(file);
+  while (step(rows.get()))
+    writer.writeRow(rows.get(), columns);
+  requireUnchanged(database);
+  file.commit();
+}
+
+/// Writing the answer over the project would be the end of it.
+void requireOtherFile(const std::vector<std::string>& words) {
+  std::error_code missing;
+  if (!words.empty() && std::filesystem::equivalent(std::filesystem::u8path(words[0]), answerName, missing))
+    throw QueryError(std::string("the database is the file ") + answerName + ", which the answer would overwrite");
+}
+
+int report(const std::string& reason) {
+  std::cerr << "lagomare-query: error: " << reason << '\n';
+  return EXIT_FAILURE;
+}
+
+/// Runs `body`; what it throws is told to `onFailure` and is what this returns the exit code of.
+template <typename Body, typename OnFailure>
+int reporting(Body body, OnFailure onFailure) {
+  std::string reason;
+  try {
+    body();
+    return EXIT_SUCCESS;
+  } catch (const std::bad_alloc&) {
+    reason = "out of memory";
+  } catch (const std::exception& error) {
+    reason = error.what();
+  }
+  onFailure(reason);
+  return report(reason);
+}
+
+} // namespace
+
+int runProgram(const std::vector<std::string>& words) {
+  if (words.size() == 1 && (words[0] == "--help" || words[0] == "-h")) {
+    std::cout << usage;
+    return EXIT_SUCCESS;
+  }
+  if (words.size() == 1 && words[0] == "--version") {
+    std::cout << "lagomare-query " LAGOMARE_VERSION "\n";
+    return EXIT_SUCCESS;
+  }
+  std::optional<AnswerFile> file;
+  return reporting(
+      [&] {
+        requireOtherFile(words);
+        file.emplace(answerName);
+        answer(parseCall(words), *file);
+      },
+      [&](const std::string& reason) {
+        if (file)
+          file->fail(reason);
+      });
+}
+
+} // namespace LagomareQuery

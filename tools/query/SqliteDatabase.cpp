@@ -1,0 +1,76 @@
+#include "tools/query/SqliteDatabase.h"
+
+#include "tools/query/PrivateCopy.h"
+#include "tools/query/QueryError.h"
+#include <fstream>
+
+namespace LagomareQuery {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The file as a URI, every byte that could mean something in one escaped.
+std::string uriOf(const fs::path& file, const char* parameters) {
+  static constexpr char digits[] = "0123456789ABCDEF";
+  static constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789/._-~:";
+  const std::string path = file.generic_u8string();
+  std::string uri = path.front() == '/' ? "file:" : "file:/";
+  for (const char character : path) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (plain.find(character) != plain.npos)
+      uri += character;
+    else
+      uri.append({'%', digits[byte >> 4], digits[byte & 0x0F]});
+  }
+  return uri + "?" + parameters;
+}
+
+/// SQLite opens the file itself only when it reads it for the first time.
+int readForTheFirstTime(sqlite3* connection) {
+  return sqlite3_exec(connection, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+}
+
+bool isWriteAheadMode(const fs::path& file) {
+  constexpr std::streamoff writeVersionOffset = 18;
+  std::ifstream stream(file, std::ios::binary);
+  stream.seekg(writeVersionOffset);
+  const int writeVersion = stream.get();
+  const int readVersion = stream.get();
+  return writeVersion == 2 || readVersion == 2;
+}
+
+Database openCopy(const fs::path& file) {
+  const auto copy = std::make_shared<PrivateCopy>(file);
+  Connection connection = openConnection(uriOf(copy->database(), "mode=rw"), SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI);
+  prepareForQueries(connection.get());
+  sqlite3_db_config(connection.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  if (readForTheFirstTime(connection.get()) != SQLITE_OK)
+    throwSqliteError(connection.get());
+  copy->removeFiles();
+  return {copy, std::move(connection), file, std::nullopt};
+}
+
+} // namespace
+
+Database openSqliteDatabase(const fs::path& given) {
+  const fs::path file = fs::canonical(given); // a -wal file stands beside the file, not beside a link to it
+  const fs::path walFile = fs::path(file) += "-wal";
+  const FileStamp stamp = FileStamp::of(file);
+  if (FileStamp::of(walFile).size > 0)
+    return openCopy(file);
+
+  // In write-ahead mode SQLite makes files beside the database even to read it, unless told that nothing changes it.
+  const bool immutable = isWriteAheadMode(file) || fs::exists(walFile);
+  Connection connection = openConnection(uriOf(file, immutable ? "mode=ro&immutable=1" : "mode=ro"),
+                                         SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  prepareForQueries(connection.get());
+  const int result = readForTheFirstTime(connection.get());
+  if (result == SQLITE_READONLY_ROLLBACK || result == SQLITE_READONLY_RECOVERY)
+    return openCopy(file);
+  if (result != SQLITE_OK)
+    throwSqliteError(connection.get());
+  return {nullptr, std::move(connection), file, immutable ? std::optional(stamp) : std::nullopt};
+}
+
+} // namespace LagomareQuery

@@ -1,0 +1,113 @@
+#include "tools/query/StoredOrder.h"
+
+#include "tools/query/QueryError.h"
+#include "tools/query/Select.h"
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace LagomareQuery {
+
+namespace {
+
+constexpr std::array<const char*, 3> rowidNames = {"rowid", "_rowid_", "oid"};
+
+enum class Rowid { hidden, asColumn };
+
+bool contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+bool sameName(const char* left, const std::string& right) { return sqlite3_stricmp(left, right.c_str()) == 0; }
+
+/// Whether the plan that SQLite makes by itself reads each table by rowid. An index that SQLite builds for the query
+/// alone keeps the order of rows with equal keys.
+bool readsByRowid(sqlite3* connection, const std::string& sql) {
+  constexpr int detailColumn = 3;
+  const Statement plan = prepare(connection, "EXPLAIN QUERY PLAN " + sql);
+  while (step(plan.get())) {
+    const std::string_view detail = textColumn(plan.get(), detailColumn);
+    if (contains(detail, "INDEX") && !contains(detail, "USING AUTOMATIC ") && !contains(detail, "VIRTUAL TABLE INDEX"))
+      return false;
+  }
+  return true;
+}
+
+std::vector<std::string> texts(sqlite3* connection, std::string_view sql) {
+  std::vector<std::string> found;
+  for (const Statement rows = prepare(connection, sql); step(rows.get());)
+    found.emplace_back(textColumn(rows.get(), 0));
+  return found;
+}
+
+/// The names that mean the rowid in this table; none in a table without rowid. A column takes such a name for itself.
+std::vector<std::string> rowidNamesOf(sqlite3* connection, const std::string& table) {
+  const Statement all = prepare(connection, "SELECT * FROM main." + quotedName(table));
+  std::vector<std::string> names(rowidNames.begin(), rowidNames.end());
+  for (int column = 0; column < sqlite3_column_count(all.get()); ++column) {
+    const char* taken = sqlite3_column_name(all.get(), column);
+    names.erase(std::remove_if(names.begin(), names.end(), [&](const auto& name) { return sameName(taken, name); }),
+                names.end());
+  }
+  sqlite3_stmt* probe = nullptr;
+  const std::string sql = "SELECT " + (names.empty() ? "NULL" : names.front()) + " FROM main." + quotedName(table);
+  const bool hasRowid = sqlite3_prepare_v2(connection, sql.c_str(), -1, &probe, nullptr) == SQLITE_OK;
+  sqlite3_finalize(probe);
+  return hasRowid ? names : std::vector<std::string>();
+}
+
+/// The limit, which limits nothing, keeps SQLite from dissolving the view into a join and its order with it.
+void shadowTable(sqlite3* connection, const std::string& table, Rowid rowid) {
+  const std::vector<std::string> names = rowidNamesOf(connection, table);
+  std::string columns = "*";
+  if (rowid == Rowid::asColumn)
+    for (const std::string& name : names)
+      columns += ", " + name + " AS " + quotedName(name);
+  const std::string order = names.empty() ? "" : " ORDER BY " + names.front() + " LIMIT -1";
+  execute(connection, "DROP VIEW IF EXISTS temp." + quotedName(table));
+  execute(connection, "CREATE TEMP VIEW " + quotedName(table) + " AS SELECT " + columns + " FROM main." +
+                          quotedName(table) + " NOT INDEXED" + order);
+}
+
+void shadowTables(sqlite3* connection, Rowid rowid) {
+  const auto tables = texts(connection, "SELECT name FROM main.sqlite_master WHERE type = 'table' AND rootpage > 0 "
+                                        "AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'");
+  for (const std::string& table : tables)
+    shadowTable(connection, table, rowid);
+}
+
+/// A stored view sees only the stored tables; its twin in the temporary schema sees their shadows.
+void shadowViews(sqlite3* connection) {
+  constexpr std::string_view asStored = "CREATE VIEW "; // SQLite stores every view's text with this beginning
+  for (const std::string& sql : texts(connection, "SELECT sql FROM main.sqlite_master WHERE type = 'view'"))
+    execute(connection, "CREATE TEMP VIEW " + sql.substr(std::min(sql.size(), asStored.size())));
+}
+
+bool isMissingRowid(const std::string& error) {
+  return contains(error, "no such column: ") &&
+         std::any_of(rowidNames.begin(), rowidNames.end(), [&](const std::string& name) {
+           return error.size() >= name.size() && sameName(error.c_str() + error.size() - name.size(), name);
+         });
+}
+
+} // namespace
+
+Statement prepareInStoredOrder(sqlite3* connection, const std::string& sql) {
+  Statement direct = prepareSelect(connection, sql, TableAccess::direct);
+  if (readsByRowid(connection, sql))
+    return direct;
+  direct.reset();
+  shadowTables(connection, Rowid::hidden);
+  shadowViews(connection);
+  try {
+    return prepareSelect(connection, sql, TableAccess::shadowsOnly);
+  } catch (const QueryError& error) {
+    if (!isMissingRowid(error.what()))
+      throw;
+  }
+  // A view has no rowid of its own. As a column it would show up among those that * stands for.
+  if (contains(sql, "*"))
+    throw QueryError("rowid and * cannot be selected together from an indexed table; name the columns");
+  shadowTables(connection, Rowid::asColumn);
+  return prepareSelect(connection, sql, TableAccess::shadowsOnly);
+}
+
+} // namespace LagomareQuery
