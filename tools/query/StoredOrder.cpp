@@ -4,6 +4,7 @@
 #include "tools/query/Select.h"
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <vector>
 
 namespace LagomareQuery {
@@ -62,7 +63,6 @@ void shadowTable(sqlite3* connection, const std::string& table, Rowid rowid) {
     for (const std::string& name : names)
       columns += ", " + name + " AS " + quotedName(name);
   const std::string order = names.empty() ? "" : " ORDER BY " + names.front() + " LIMIT -1";
-  execute(connection, "DROP VIEW IF EXISTS temp." + quotedName(table));
   execute(connection, "CREATE TEMP VIEW " + quotedName(table) + " AS SELECT " + columns + " FROM main." +
                           quotedName(table) + " NOT INDEXED" + order);
 }
@@ -81,11 +81,17 @@ void shadowViews(sqlite3* connection) {
     execute(connection, "CREATE TEMP VIEW " + sql.substr(std::min(sql.size(), asStored.size())));
 }
 
-bool isMissingRowid(const std::string& error) {
-  return contains(error, "no such column: ") &&
-         std::any_of(rowidNames.begin(), rowidNames.end(), [&](const std::string& name) {
-           return error.size() >= name.size() && sameName(error.c_str() + error.size() - name.size(), name);
-         });
+/// Whether a word of the SQL may mean a rowid.
+bool mentionsRowid(const std::string& sql) {
+  const auto isWordCharacter = [](char c) { return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0; };
+  for (auto begin = sql.begin(); begin != sql.end();) {
+    const auto end = std::find_if_not(begin, sql.end(), isWordCharacter);
+    const std::string word(begin, end);
+    if (std::any_of(rowidNames.begin(), rowidNames.end(), [&](const char* name) { return sameName(name, word); }))
+      return true;
+    begin = std::find_if(end, sql.end(), isWordCharacter);
+  }
+  return false;
 }
 
 } // namespace
@@ -95,18 +101,12 @@ Statement prepareInStoredOrder(sqlite3* connection, const std::string& sql) {
   if (readsByRowid(connection, sql))
     return direct;
   direct.reset();
-  shadowTables(connection, Rowid::hidden);
-  shadowViews(connection);
-  try {
-    return prepareSelect(connection, sql, TableAccess::shadowsOnly);
-  } catch (const QueryError& error) {
-    if (!isMissingRowid(error.what()))
-      throw;
-  }
   // A view has no rowid of its own. As a column it would show up among those that * stands for.
-  if (contains(sql, "*"))
-    throw QueryError("rowid and * cannot be selected together from an indexed table; name the columns");
-  shadowTables(connection, Rowid::asColumn);
+  const Rowid rowid = mentionsRowid(sql) ? Rowid::asColumn : Rowid::hidden;
+  if (rowid == Rowid::asColumn && contains(sql, "*"))
+    throw QueryError("rowid and * cannot be used together where an index would be; name the columns");
+  shadowTables(connection, rowid);
+  shadowViews(connection);
   return prepareSelect(connection, sql, TableAccess::shadowsOnly);
 }
 
