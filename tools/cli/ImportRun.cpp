@@ -1,0 +1,92 @@
+#include "tools/cli/ImportRun.h"
+
+#include "access/LagomareProjectManager.h"
+#include "loader/LagomareProjectLoader.h"
+#include "model/Scenario.h"
+#include "tools/cli/DialectProbe.h"
+#include "tools/cli/ErrorReport.h"
+#include "tools/cli/Failure.h"
+#include "tools/cli/LastQuery.h"
+#include "tools/cli/PrivateDirectory.h"
+#include "tools/cli/Progress.h"
+#include "tools/cli/QueryLauncher.h"
+
+namespace LagomareCli {
+
+namespace {
+
+/// The query channel, open for as long as this lives.
+class OpenChannel {
+public:
+  explicit OpenChannel(const PlainNames& names) {
+    LagomareProjectManager::getInstance(names.database)->setApiExecutable(names.executable);
+  }
+  ~OpenChannel() { LagomareProjectManager::cleanInstance(); }
+  OpenChannel(const OpenChannel&) = delete;
+  OpenChannel& operator=(const OpenChannel&) = delete;
+};
+
+SceneryProjectManagerRet load(const PlainNames& names, const ImportPlace& place,
+                              const std::function<bool(long, long)>& progress) {
+  const OpenChannel channel(names);
+  const auto loadProject =
+      place.dialect == Dialect::of2010 ? LagomareProjectLoader::load2010 : LagomareProjectLoader::load2013;
+  try {
+    return loadProject(names.executable, names.database, progress);
+  } catch (const Failure&) {
+    throw;
+  } catch (const std::exception& error) {
+    requireLaunched();
+    throw Failure(reportOf(error, place));
+  }
+}
+
+Dialect dialectOf(const ImportOptions& options, const Inputs& inputs, const PlainNames& names) {
+  if (options.dialect)
+    return *options.dialect;
+  const OpenChannel channel(names);
+  return findDialect(inputs, names.database);
+}
+
+void requirePeriod(const SceneryProjectManagerRet& result, const ImportPlace& place) {
+  if (result.scenario && result.scenario->getInterval().isEmpty())
+    throw Failure(place.inputs.projectName + ": the project's period is empty: its duration, column Duracao of table " +
+                  settingsTableOf(place.dialect) + ", is 0 years; correct it");
+}
+
+Imported importIn(const PlainNames& names, const ImportOptions& options, const Inputs& inputs,
+                  const Interruption& interruption) {
+  const ImportPlace place{inputs, names.database, dialectOf(options, inputs, names), !options.dialect};
+  Progress progress(!options.isQuiet);
+  Imported imported{place.dialect, place.isDialectFound, {importCancelled, nullptr}};
+  if (interruption.isRequested())
+    return imported;
+  imported.result = load(names, place, [&](long stepsDone, long stepsInAll) {
+    requireLaunched();
+    if (interruption.isRequested())
+      return false;
+    progress.show(stepsDone, stepsInAll);
+    return true;
+  });
+  requirePeriod(imported.result, place);
+  return imported;
+}
+
+} // namespace
+
+std::optional<Imported> runImport(const ImportOptions& options, const Inputs& inputs,
+                                  const Interruption& interruption) {
+  const PrivateDirectory directory;
+  const PlainNames names = installLauncher(inputs.program, inputs.executable, inputs.project);
+  try {
+    Imported imported = importIn(names, options, inputs, interruption);
+    if (imported.result.status != importCancelled.code)
+      return imported;
+  } catch (const std::exception&) {
+    if (!interruption.isRequested())
+      throw;
+  }
+  return std::nullopt;
+}
+
+} // namespace LagomareCli

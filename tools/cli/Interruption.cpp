@@ -1,0 +1,97 @@
+#include "tools/cli/Interruption.h"
+
+#include "tools/cli/Leftover.h"
+
+#include <csignal>
+#include <string_view>
+#include <unistd.h>
+
+namespace LagomareCli {
+
+namespace {
+
+/// A program started by nohup goes on when its terminal closes.
+bool isIgnored(int signal) {
+  struct sigaction action {};
+  return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+sigset_t handledSignals() {
+  static const bool withHangup = !isIgnored(SIGHUP);
+  sigset_t signals;
+  sigemptyset(&signals);
+  for (const int signal : {SIGINT, SIGTERM, SIGQUIT})
+    sigaddset(&signals, signal);
+  if (withHangup)
+    sigaddset(&signals, SIGHUP);
+  return signals;
+}
+
+/// The step that runs may take long, or hang.
+void tellHowToEnd() {
+  constexpr std::string_view note = "\nlagomare: stopping after the step that runs; once more ends at once\n";
+  if (::isatty(STDERR_FILENO) != 0)
+    static_cast<void>(::write(STDERR_FILENO, note.data(), note.size()) < 0);
+}
+
+} // namespace
+
+Interruption::Interruption() {
+  const sigset_t signals = handledSignals();
+  ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  thread_ = std::thread([this] { waitForSignals(); });
+}
+
+Interruption::~Interruption() {
+  {
+    const std::lock_guard lock(mutex_);
+    isLeaving_ = true;
+  }
+  ::pthread_kill(thread_.native_handle(), SIGTERM);
+  thread_.join();
+}
+
+bool Interruption::isRequested() const {
+  const std::lock_guard lock(mutex_);
+  return state_ == State::stopping;
+}
+
+bool Interruption::endImport() {
+  const std::lock_guard lock(mutex_);
+  if (state_ == State::importing)
+    state_ = State::writing;
+  return state_ == State::writing;
+}
+
+void Interruption::endAll() {
+  const std::lock_guard lock(mutex_);
+  state_ = State::over;
+}
+
+void Interruption::waitForSignals() {
+  const sigset_t signals = handledSignals();
+  for (;;) {
+    int signal = 0;
+    if (::sigwait(&signals, &signal) != 0)
+      continue;
+    const std::lock_guard lock(mutex_);
+    if (isLeaving_)
+      return;
+    handleSignal();
+  }
+}
+
+/// Called with the state locked, so that nothing changes it while the program ends.
+void Interruption::handleSignal() {
+  if (state_ == State::over)
+    return;
+  if (state_ == State::importing) {
+    state_ = State::stopping;
+    tellHowToEnd();
+    return;
+  }
+  Leftover::removeAllAtEnd();
+  ::_exit(exitCode);
+}
+
+} // namespace LagomareCli

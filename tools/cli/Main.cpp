@@ -1,0 +1,48 @@
+#include "tools/cli/Failure.h"
+#include "tools/cli/ImportCommand.h"
+#include "tools/cli/QueryLauncher.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <new>
+#include <unistd.h>
+
+namespace {
+
+using namespace LagomareCli;
+
+constexpr int success = 0;
+constexpr int failure = 1;
+constexpr int wrongCall = 2;
+
+/// A stream that the caller closed would be the next file that is opened. Writing to one of these is an error again.
+void occupyStandardStreams() {
+  for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+    if (::fcntl(descriptor, F_GETFD) < 0)
+      static_cast<void>(::open("/dev/null", O_RDONLY) == descriptor);
+}
+
+int runCommand(int argumentCount, char* arguments[]) {
+  try {
+    const auto options = parseOptions(argumentCount, arguments);
+    return options ? importProject(*options) : success;
+  } catch (const UsageError& error) {
+    printError(std::string(error.what()) + " (lagomare import --help tells the words)");
+    return wrongCall;
+  } catch (const std::bad_alloc&) {
+    printError("there is not enough memory");
+  } catch (const std::exception& error) {
+    printError(error.what());
+  }
+  return failure;
+}
+
+} // namespace
+
+int main(int argumentCount, char* arguments[]) {
+  occupyStandardStreams();
+  std::signal(SIGPIPE, SIG_IGN); // a closed pipe is an error of writing
+  if (argumentCount > 0 && isLauncher(arguments[0]))
+    return launchQuery(arguments);
+  return argumentCount > 0 ? runCommand(argumentCount, arguments) : wrongCall;
+}

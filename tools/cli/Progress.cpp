@@ -1,0 +1,37 @@
+#include "tools/cli/Progress.h"
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+namespace LagomareCli {
+
+Progress::Progress(bool isWanted) : isDrawn_(isWanted && ::isatty(STDERR_FILENO) != 0) {
+  draw("lagomare: reading the project");
+}
+
+Progress::~Progress() {
+  try {
+    draw("");
+  } catch (const std::exception&) {
+    // Only a line that is not drawn.
+  }
+}
+
+void Progress::show(long stepsDone, long stepsInAll) {
+  const auto elapsed = std::chrono::steady_clock::now() - begin_;
+  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(elapsed).count();
+  draw(fmt::format("lagomare: step {} of {}, {}:{:02}", stepsDone, stepsInAll, seconds / 60, seconds % 60));
+}
+
+/// An empty text leaves the cursor where the line began.
+void Progress::draw(const std::string& text) {
+  if (!isDrawn_)
+    return;
+  std::string line = fmt::format("\r{:<{}}", text, width_);
+  if (text.empty())
+    line += '\r';
+  width_ = text.size();
+  static_cast<void>(::write(STDERR_FILENO, line.data(), line.size()) < 0);
+}
+
+} // namespace LagomareCli

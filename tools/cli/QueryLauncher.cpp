@@ -1,0 +1,160 @@
+#include "tools/cli/QueryLauncher.h"
+
+#include "access/Answer.h"
+#include "access/LagomareProjectManager.h"
+#include "tools/cli/Failure.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace LagomareCli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The files of the private directory.
+constexpr const char* launcherName = "query-launcher";
+constexpr const char* executableLink = "query-executable"; ///< its target is the executable's path
+constexpr const char* groupFile = "query-group";           ///< the process group, while a query runs
+constexpr const char* sqlFile = "query-sql";
+constexpr const char* complaintFile = "query-complaint";
+constexpr const char* fullDiskFile = "query-full-disk"; ///< an error line written while there was room
+
+constexpr int couldNotStart = 127;
+
+/// Executables tell databases apart by their ending; a plain one is kept.
+std::string plainEnding(const fs::path& database) {
+  const std::string ending = database.extension().string();
+  const bool isPlain =
+      ending.size() > 1 && ending.size() <= 16 && std::all_of(ending.begin() + 1, ending.end(), [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+      });
+  return isPlain ? ending : "";
+}
+
+void redirect(int descriptor, const char* file, int flags) {
+  const int opened = ::open(file, flags, 0600);
+  if (opened >= 0 && opened != descriptor) {
+    ::dup2(opened, descriptor);
+    ::close(opened);
+  }
+}
+
+/// Turns this process into the executable, as a shell would start it: also a script without an interpreter's line.
+[[noreturn]] void become(const char* const* arguments) {
+  redirect(STDIN_FILENO, "/dev/null", O_RDONLY);
+  redirect(STDOUT_FILENO, "/dev/null", O_WRONLY);
+  redirect(STDERR_FILENO, complaintFile, O_WRONLY | O_CREAT | O_TRUNC);
+  sigset_t none;
+  sigemptyset(&none);
+  ::sigprocmask(SIG_SETMASK, &none, nullptr);
+  std::signal(SIGPIPE, SIG_DFL);
+  ::execvp(arguments[0], const_cast<char* const*>(arguments)); // execvp changes none of them
+  const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
+  static_cast<void>(::write(STDERR_FILENO, complaint.data(), complaint.size()) < 0);
+  ::_exit(couldNotStart);
+}
+
+int run(const char* const* arguments) {
+  const pid_t child = ::fork();
+  if (child == 0)
+    become(arguments);
+  int status = 0;
+  while (child > 0 && ::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  if (child > 0 && WIFSIGNALED(status))
+    std::ofstream(complaintFile, std::ios::app) << "it was ended by signal " << WTERMSIG(status) << '\n';
+  return child > 0 && WIFEXITED(status) ? WEXITSTATUS(status) : couldNotStart;
+}
+
+std::string errorLine(const std::string& reason) { return "error: " + reason + " .\n"; }
+
+bool writeFile(const std::string& name, const std::string& text) {
+  std::error_code error;
+  fs::remove(name, error); // whatever a query made of it
+  std::ofstream file(name, std::ios::binary);
+  file << text;
+  file.close();
+  return !file.fail();
+}
+
+/// On a full disk an error line takes the answer's place without a byte being written.
+bool forbidOldAnswer(const std::string& sql) {
+  const auto& answer = LagomareProjectManager::fileResultQuery;
+  if (writeFile(answer, errorLine(noAnswer)) && writeFile(sqlFile, sql))
+    return true;
+  std::error_code error;
+  fs::rename(fullDiskFile, answer, error);
+  return false;
+}
+
+} // namespace
+
+const char* const noAnswer = "the query executable did not answer";
+
+PlainNames installLauncher(const fs::path& program, const fs::path& executable, const fs::path& database) {
+  const std::string databaseName = "project" + plainEnding(database);
+  std::error_code error;
+  fs::create_symlink(program, launcherName, error);
+  if (!error)
+    fs::create_symlink(executable, executableLink, error);
+  if (!error)
+    fs::create_symlink(database, databaseName, error);
+  if (error || !writeFile(fullDiskFile, errorLine("the disk of the working directory is full")))
+    throw Failure("cannot fill the working directory " + fs::current_path().string() + ": " +
+                  (error ? error.message() : systemText(ENOSPC)));
+  return {std::string("./") + launcherName, databaseName};
+}
+
+bool isLauncher(const std::string& calledAs) { return calledAs == std::string("./") + launcherName; }
+
+int launchQuery(char* const arguments[]) {
+  std::vector<const char*> words;
+  for (; *arguments != nullptr; ++arguments)
+    words.push_back(*arguments);
+  const bool isQuery = words.size() > 2;
+  ::setpgid(0, 0);
+  // The group is on file before the link is read: whoever takes the link away first and then reads the group knows of
+  // every query that can still start.
+  if (!isQuery || !forbidOldAnswer(words[2]) || !writeFile(groupFile, std::to_string(::getpid())))
+    return couldNotStart;
+  std::error_code error;
+  const std::string executable = fs::read_symlink(executableLink, error).string();
+  if (error)
+    return couldNotStart;
+  words[0] = executable.c_str();
+  words.push_back(nullptr);
+  ::setenv("TMPDIR", fs::current_path().c_str(), 1); // what a query leaves there is removed with the rest
+  const int exitCode = run(words.data());
+  fs::remove(groupFile, error);
+  return exitCode;
+}
+
+void stopQuery(const fs::path& directory) {
+  std::error_code error;
+  fs::remove(directory / executableLink, error);
+  const long group = std::atol(readAnswer((directory / groupFile).string()).c_str());
+  if (group > 1)
+    ::kill(static_cast<pid_t>(-group), SIGKILL);
+}
+
+std::string lastLaunchedSql() { return readAnswer(sqlFile); }
+
+std::string lastQueryComplaint() {
+  std::string text = readAnswer(complaintFile);
+  const std::size_t end = text.find_last_not_of(" \t\r\n");
+  if (end == std::string::npos)
+    return "";
+  text.resize(end + 1);
+  return text.substr(text.find_last_of("\r\n") + 1);
+}
+
+} // namespace LagomareCli

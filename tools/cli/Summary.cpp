@@ -1,0 +1,73 @@
+#include "tools/cli/Summary.h"
+
+#include "tools/cli/ScenarioView.h"
+#include "tools/cli/Text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace LagomareCli {
+
+namespace {
+
+constexpr const char* usualZone = "23S";
+
+std::string line(const char* label, const std::string& text) { return fmt::format("  {:<22}{}\n", label, text); }
+
+std::string periodOf(const Interval& interval) {
+  const unsigned months = monthsOf(interval);
+  return fmt::format("{} to {} ({} month{})", isoMonth(interval.getBegin()), isoMonth(interval.getEnd()), months,
+                     months == 1 ? "" : "s");
+}
+
+std::string textOf(const HydrologicalStateConfiguration& states) {
+  const std::string kind = states.getCurrentHydrologicalStateType().name;
+  if (states.getNumOfStates() == 0)
+    return "none (" + kind + ")";
+  std::string boundaries;
+  for (const double boundary : states.getXValues())
+    boundaries += (boundaries.empty() ? "; boundaries " : ", ") + std::string(NumberText(boundary).view());
+  return fmt::format("{} ({}{})", states.getNumOfStates(), kind, boundaries);
+}
+
+template <typename Elements>
+std::size_t countOf(const Elements& elements, const std::set<ElementType>& types) {
+  return static_cast<std::size_t>(std::count_if(elements.begin(), elements.end(), [&types](const auto& element) {
+    return types.count(element->getElementType()->type()) != 0;
+  }));
+}
+
+std::string linksOf(const Network& network) {
+  const auto isTwoWay = [](const auto& link) { return link->getIsBidirectional(); };
+  return fmt::format("{} ({} natural, {} artificial; {} bidirectional)", network.links.size(),
+                     countOf(network.links, {ElementType::NaturalLink}),
+                     countOf(network.links, {ElementType::ArtificialLink}),
+                     std::count_if(network.links.begin(), network.links.end(), isTwoWay));
+}
+
+std::string countsOf(const Network& network) {
+  const auto count = [&network](const std::set<ElementType>& types) {
+    return std::to_string(countOf(network.nodes, types));
+  };
+  return line("reservoirs", count(reservoirTypes)) + line("demands", count(consumptiveDemandTypes)) +
+         line("drains", count({ElementType::DrainDemand})) + line("junctions", count(junctionTypes)) +
+         line("links", linksOf(network));
+}
+
+} // namespace
+
+std::string summaryOf(const Imported& imported, const std::optional<UtmZone>& zone) {
+  std::string summary = plainText(imported.result.message) + '\n';
+  summary += line("dialect",
+                  std::string(nameOf(imported.dialect)) + (imported.isDialectFound ? " (found by its tables)" : ""));
+  if (!imported.result.scenario)
+    return summary;
+  const Scenario& scenario = *imported.result.scenario;
+  summary += line("UTM zone", zone ? textOf(*zone) : std::string(usualZone) + " (assumed; --utm-zone sets another)");
+  summary += line("scenario", oneLine(scenario.getName()));
+  summary += line("period", periodOf(scenario.getInterval()));
+  summary += line("hydrological states", textOf(statesOf(scenario)));
+  return summary + countsOf(networkOf(scenario));
+}
+
+} // namespace LagomareCli
