@@ -4,18 +4,12 @@
 
 namespace LagomareQuery {
 
-namespace {
-
-/// One line whatever the reason holds; a line break in a file name must not start a second line.
-std::string errorLine(std::string_view reason) {
-  std::string line = "error: ";
-  line += reason;
+std::string inOneLine(std::string_view text) {
+  std::string line(text);
   std::replace_if(
       line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
-  return line + " .\n";
+  return line;
 }
-
-} // namespace
 
 AnswerFile::AnswerFile(std::string path) : m_file(std::move(path), unfinishedLine) {}
 
@@ -45,7 +39,7 @@ void AnswerFile::fail(std::string_view reason) noexcept {
     m_file.truncate(line.size());
   };
   try {
-    overwrite(errorLine(reason));
+    overwrite("error: " + inOneLine(reason) + " .\n");
   } catch (...) {
     try {
       overwrite(unfinishedLine); // needs no more room on the disk than the file has

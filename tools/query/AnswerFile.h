@@ -8,6 +8,9 @@
 
 namespace LagomareQuery {
 
+/// The text with a blank for each line break and other control character, such as file names may hold.
+[[nodiscard]] std::string inOneLine(std::string_view text);
+
 /// The answer on its way to the reader. From construction to commit() the file's first line is an error line, so that
 /// whoever reads it after this process was killed finds an error and not a shorter answer: the first bytes of the
 /// answer are held back, the rest streams in behind them.

@@ -60,7 +60,7 @@ void requireOtherFile(const std::vector<std::string>& words) {
 }
 
 int report(const std::string& reason) {
-  std::cerr << "lagomare-query: error: " << reason << '\n';
+  std::cerr << "lagomare-query: error: " << inOneLine(reason) << '\n';
   return EXIT_FAILURE;
 }
 

@@ -55,6 +55,26 @@ std::vector<std::string> rowidNamesOf(sqlite3* connection, const std::string& ta
   return hasRowid ? names : std::vector<std::string>();
 }
 
+/// The terms that sort a table without rowid as it is stored, by its primary key.
+std::vector<std::string> keyTermsOf(sqlite3* connection, const std::string& table) {
+  const Statement rows =
+      prepare(connection, "SELECT printf('\"%w\" COLLATE \"%w\" %s', part.name, part.coll, iif(part.desc, 'DESC', '')) "
+                          "FROM pragma_index_list(?) AS list, pragma_index_xinfo(list.name) AS part "
+                          "WHERE list.origin = 'pk' AND part.key = 1 ORDER BY part.seqno");
+  sqlite3_bind_text(rows.get(), 1, table.c_str(), -1, SQLITE_STATIC);
+  std::vector<std::string> terms;
+  while (step(rows.get()))
+    terms.emplace_back(textColumn(rows.get(), 0));
+  return terms;
+}
+
+std::string joined(const std::vector<std::string>& parts) {
+  std::string text;
+  for (const std::string& part : parts)
+    text += (text.empty() ? "" : ", ") + part;
+  return text;
+}
+
 /// The limit, which limits nothing, keeps SQLite from dissolving the view into a join and its order with it.
 void shadowTable(sqlite3* connection, const std::string& table, Rowid rowid) {
   const std::vector<std::string> names = rowidNamesOf(connection, table);
@@ -62,9 +82,10 @@ void shadowTable(sqlite3* connection, const std::string& table, Rowid rowid) {
   if (rowid == Rowid::asColumn)
     for (const std::string& name : names)
       columns += ", " + name + " AS " + quotedName(name);
-  const std::string order = names.empty() ? "" : " ORDER BY " + names.front() + " LIMIT -1";
+  const std::string order = names.empty() ? joined(keyTermsOf(connection, table)) : names.front();
   execute(connection, "CREATE TEMP VIEW " + quotedName(table) + " AS SELECT " + columns + " FROM main." +
-                          quotedName(table) + " NOT INDEXED" + order);
+                          quotedName(table) + " NOT INDEXED" +
+                          (order.empty() ? "" : " ORDER BY " + order + " LIMIT -1"));
 }
 
 void shadowTables(sqlite3* connection, Rowid rowid) {

@@ -1,0 +1,141 @@
+#include "tests/query/QueryTest.h"
+#include <fstream>
+#include <sstream>
+
+namespace LagomareQuery {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string sample(const std::string& name) { return std::string(SAMPLES) + "/" + name; }
+
+std::vector<std::string> split(const std::string& text, char separator) {
+  std::vector<std::string> parts;
+  std::istringstream stream(text);
+  for (std::string part; std::getline(stream, part, separator);)
+    parts.push_back(part);
+  return parts;
+}
+
+class AccessDatabaseTest : public QueryTest {
+protected:
+  /// The SQLite database made from the text that the Access file was made from; a date alone gets its midnight, as in
+  /// Access.
+  static void makeTwin(const std::string& sqlFile) {
+    std::string sql = contentOf(sample(sqlFile));
+    for (std::size_t at = 0; (at = sql.find("-01'", at)) != std::string::npos; at += 4)
+      sql.insert(at + 3, " 00:00:00");
+    runSql("twin.db", sql);
+  }
+};
+
+TEST_F(AccessDatabaseTest, EveryTableOfTheExamplesEqualsItsText) {
+  for (const auto& [access, text] :
+       {std::pair("example-2010.mdb", "example-2010.sql"), std::pair("example-2013.accdb", "example-2013.sql")}) {
+    fs::remove("twin.db");
+    makeTwin(text);
+    const auto tables = split(answer("twin.db", "SELECT name FROM sqlite_master WHERE type = 'table'"), '\n');
+    EXPECT_GE(tables.size(), 14u);
+    for (std::string table : tables) {
+      const std::string sql = "SELECT * FROM " + table.substr(0, table.find(' '));
+      EXPECT_EQ(answer(sample(access), sql), answer("twin.db", sql)) << sql;
+    }
+  }
+}
+
+TEST_F(AccessDatabaseTest, TheEnginesSqlWorks) {
+  const std::string file = sample("example-2013.accdb");
+  EXPECT_EQ(answer(file, "select FORMAT(DataHoraIni, 'dd/mm/yyyy'), Duracao, OptCalc, TipoSimul from tk_gerais"),
+            "15/01/2000 2 1 0 .\n");
+  EXPECT_EQ(answer(file, "SELECT count(*) FROM LgmVazNat v JOIN Tk_Pas_FEA p ON v.NumPto = p.NumPonto"), "72 .\n");
+  EXPECT_EQ(answer(file, "SELECT Valor FROM LgmFrontEH WHERE EstHidr = '2' ORDER BY Valor"), "0.7 .\n");
+  EXPECT_EQ(refusal(file, "SELECT * FROM DefGerais"), "no such table: DefGerais");
+  EXPECT_NE(refusal(file, "DELETE FROM LgmFrontEH").find("may not be modified"), std::string::npos);
+}
+
+TEST_F(AccessDatabaseTest, EveryTypeComesOutAsItsTextSays) {
+  makeTwin("types.sql");
+  const std::string file = sample("types.mdb");
+  for (const char* columns :
+       {"Id, CLong, CInt, CByte", "CMoeda, CDec, CDec0, CDec28", "CTexto, CMemo", "CData, CGuid", "CBin, COle"}) {
+    const std::string sql = std::string("SELECT ") + columns + " FROM Tipos";
+    EXPECT_TRUE(answer(file, sql) == answer("twin.db", sql)) << columns;
+  }
+  for (const char* table : {"\"Tabela com espaço\"", "IdsReais", "Vazia"}) {
+    const std::string sql = std::string("SELECT * FROM ") + table;
+    EXPECT_EQ(answer(file, sql), answer("twin.db", sql));
+  }
+  // Literally, for SQLite reads some of these texts into the neighbouring double; and a truth value is never NULL.
+  EXPECT_EQ(answer(file, "SELECT CDouble, CSingle, CBool FROM Tipos"),
+            "0 0 0 .\n  0 .\n-0.1 -0.1 1 .\n1.7976931348623157e+308 3.4028235e+38 1 .\n0 1e-45 0 .\n0.1 0.1 1 .\n"
+            "0.3333333333333333 0.33333334 0 .\n123456789.12345679 16777216 1 .\n"
+            "2.2250738585072014e-308 1.1754944e-38 0 .\n9007199254740992 100000 1 .\n");
+}
+
+/// The stream cipher of encoded databases; it is its own inverse.
+void cipher(std::uint32_t key, char* bytes, std::size_t size) {
+  std::uint8_t state[256];
+  for (int i = 0; i < 256; ++i)
+    state[i] = static_cast<std::uint8_t>(i);
+  for (unsigned i = 0, j = 0; i < 256; ++i) {
+    j = (j + state[i] + (key >> 8 * (i % 4) & 0xFF)) % 256;
+    std::swap(state[i], state[j]);
+  }
+  for (unsigned i = 0, j = 0; size-- > 0; ++bytes) {
+    i = (i + 1) % 256;
+    j = (j + state[i]) % 256;
+    std::swap(state[i], state[j]);
+    *bytes = static_cast<char>(*bytes ^ state[(state[i] + state[j]) % 256]);
+  }
+}
+
+TEST_F(AccessDatabaseTest, AnEncodedDatabaseIsRead) {
+  constexpr std::uint32_t key = 0x12345678;
+  constexpr std::size_t pageSize = 4096;
+  std::string bytes = contentOf(sample("types.mdb"));
+  for (int i = 0; i < 4; ++i) // the header masks the key with a fixed stream
+    bytes[static_cast<std::size_t>(0x3E + i)] ^= static_cast<char>(key >> 8 * i & 0xFF);
+  for (std::uint32_t page = 1; page * pageSize < bytes.size(); ++page)
+    cipher(key ^ page, &bytes[page * pageSize], pageSize);
+  writeFile("encoded.mdb", bytes);
+  const std::string sql = "SELECT * FROM Tipos";
+  EXPECT_TRUE(answer("encoded.mdb", sql) == answer(sample("types.mdb"), sql));
+}
+
+TEST_F(AccessDatabaseTest, AnEncryptedDatabaseSaysSo) {
+  std::string bytes = contentOf(sample("example-2013.accdb"));
+  bytes[0x3E] = static_cast<char>(bytes[0x3E] ^ 1);
+  writeFile("locked.accdb", bytes);
+  EXPECT_EQ(refusal("locked.accdb", "SELECT 1"), "the Access database is encrypted; remove its password first");
+}
+
+std::string repeated(const std::string& text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i)
+    all += text;
+  return all;
+}
+
+/// Rows longer than 256 bytes, a deleted row, one that moved to another page, memos in their cell, in a row and in a
+/// chain of rows, in code page 1252.
+TEST_F(AccessDatabaseTest, Access97IsRead) {
+  const std::string file = sample("jet3.mdb");
+  EXPECT_EQ(answer(file, "SELECT * FROM Nós WHERE Número <> 5"),
+            "1 Açude\u00A0Velho\u00A0–\u00A0“grande”\u00A0€ 1 1.5 curta  0.1 .\n2  0     .\n3 " +
+                repeated("ção\u00A0", 50) + " 1 -2.25 " + repeated("ção\u00A0", 50) + " " + repeated("é", 255) +
+                " 10000000000 .\n6 mudou 0 6.5  longe 6.25 .\n-4 " + repeated("x", 255) + " 0 100000 " +
+                repeated("nota\u00A0única\u00A0", 30) + " " + repeated("y", 255) + " 16777216 .\n");
+  EXPECT_EQ(answer(file, "SELECT Número, Nota FROM Nós WHERE Nome = 'longa'"),
+            "5 " + repeated("parte\u00A0ção\u00A0", 300) + " .\n");
+  EXPECT_NE(refusal(file, "SELECT * FROM Ligada").find("only linked here"), std::string::npos);
+}
+
+TEST_F(AccessDatabaseTest, TheEnvironmentChangesNothing) {
+  const std::string expected = answer(sample("jet3.mdb"), "SELECT * FROM Nós");
+  setenv("MDBICONV", "UTF-16", 1);
+  setenv("MDBOPTS", "debug_row:debug_usage", 1);
+  EXPECT_EQ(answer(sample("jet3.mdb"), "SELECT * FROM Nós"), expected);
+}
+
+} // namespace
+} // namespace LagomareQuery
