@@ -1,0 +1,25 @@
+#pragma once
+
+#include "bench/Table.h"
+
+#include <filesystem>
+
+namespace LagomareBench {
+
+/// Where the programs and files are that the benches run on, and how large a basin they import.
+struct Setting {
+  std::filesystem::path programs; ///< holds the query executable and the bench's own helpers
+  std::filesystem::path samples;  ///< Access files
+  bool isLarge = false;
+};
+
+void addParserBenches(Table& table, const Setting& setting);
+void addNumberBenches(Table& table);
+void addSeriesBenches(Table& table);
+void addQueryBenches(Table& table, const Setting& setting);
+void addAccessBenches(Table& table, const Setting& setting);
+void addImportBenches(Table& table, const Setting& setting);
+/// Into a table of their own, headed by how many times larger the work is.
+void addGrowthBenches(Table& table, const Setting& setting);
+
+} // namespace LagomareBench

@@ -1,0 +1,100 @@
+#include "access/Numbers.h"
+#include "bench/Benches.h"
+
+#include <cstring>
+#include <optional>
+#include <random>
+#include <stdexcept>
+
+namespace LagomareBench {
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+std::string printed(const char* format, double value) {
+  char text[400];
+  return std::string(text, static_cast<std::size_t>(std::snprintf(text, sizeof text, format, value)));
+}
+
+double randomBits(std::mt19937_64& random) {
+  const std::uint64_t bits = random();
+  double value = 0.0;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
+/// A number of any size in one of the ways to write it, or some letters that numbers are made of.
+std::string randomText(std::mt19937_64& random) {
+  static constexpr const char* formats[] = {"%.17g", "%.15g", "%.4f", "%.3e", " %+.9g", "%g x", "%a", "%.0f"};
+  static constexpr std::string_view letters = "0123456789+-.eExXpP infatyINFATY\t";
+  if (random() % 4 != 0)
+    return printed(formats[random() % std::size(formats)],
+                   random() % 2 == 0 ? randomBits(random) : static_cast<double>(random() % 10000000000U) * 1e-4);
+  std::string text;
+  for (auto length = random() % 12; length > 0; --length)
+    text += letters[random() % letters.size()];
+  return text;
+}
+
+/// The bits of what the text converts to, or what() of the error.
+template <typename Convert>
+std::string outcome(const std::string& text, Convert convert) {
+  try {
+    const double value = convert(text);
+    return std::string(reinterpret_cast<const char*>(&value), sizeof value);
+  } catch (const std::invalid_argument& error) {
+    return std::string("invalid ") + error.what();
+  } catch (const std::out_of_range& error) {
+    return std::string("out of range ") + error.what();
+  }
+}
+
+double plain(const std::string& text) { return std::stod(text); }
+
+std::optional<std::string> difference(unsigned texts) {
+  std::mt19937_64 random(1);
+  for (unsigned done = 0; done < texts; ++done)
+    if (const auto text = randomText(random); outcome(text, plain) != outcome(text, toDouble))
+      return text;
+  return std::nullopt;
+}
+
+template <typename Convert>
+std::function<void()> convertAll(const Texts& texts, Convert convert) {
+  return [texts, convert] {
+    for (const auto& text : texts)
+      benchmark::DoNotOptimize(convert(text));
+  };
+}
+
+Work& addConversion(Table& table, const std::string& name, const Texts& texts) {
+  Work& work = table.add(name, nanoseconds);
+  const auto items = static_cast<double>(texts.size());
+  work.addLoop("plain", items, convertAll(texts, plain));
+  work.addLoop("ours", items, convertAll(texts, toDouble));
+  return work;
+}
+
+} // namespace
+
+void addNumberBenches(Table& table) {
+  constexpr unsigned count = 10000;
+  constexpr unsigned compared = 1000000;
+  std::mt19937_64 random(1);
+  Texts decimals;
+  Texts digits;
+  for (unsigned text = 0; text < count; ++text) {
+    decimals.push_back(printed("%.4f", static_cast<double>(random() % 100000000U) * 1e-4));
+    digits.push_back(printed("%.17g", std::ldexp(static_cast<double>(random()), -50)));
+  }
+  Work& work = addConversion(table, "text → double, 4 decimals", decimals);
+  work.aimAtLeast("plain", "ours", 6.0);
+  work.setCheck([] {
+    if (const auto text = difference(compared))
+      throw std::runtime_error("\"" + *text + "\" is converted otherwise than by std::stod");
+  });
+  addConversion(table, "text → double, 17 digits", digits).aimAtLeast("plain", "ours", 4.0);
+}
+
+} // namespace LagomareBench
