@@ -20,10 +20,12 @@ Probe probe(Dialect dialect, const Inputs& inputs, const std::string& plainDatab
     const auto count =
         LagomareProjectManager::getInstance()->query("select count(*) from " + settingsTableOf(dialect), false);
     requireLaunched();
-    return {!count.empty(), "the query executable's answer is empty"};
+    return {!count.empty(), "the query executable's answer to a count is empty"};
   } catch (const FieldError&) {
     const std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
-    return {false, refusal.empty() ? "the query executable's answer is no number" : refusal};
+    return {false, refusal.empty() ? "the query executable answered \"" + firstLineOfAnswer() +
+                                         "\", which is no row: a number, a blank, one field more"
+                                   : refusal};
   }
 }
 
@@ -40,7 +42,8 @@ bool namesTable(const Probe& probe, Dialect dialect) {
   if (namesTable(probe2010, Dialect::of2010) && namesTable(probe2013, Dialect::of2013))
     throw Failure(project + ": holds neither " + namesOfBoth("nor") +
                   "; check that it is the project's database and not another one");
-  throw Failure(project + ": neither " + namesOfBoth("nor") + " can be read: " + probe2010.refusal);
+  const Probe& telling = namesTable(probe2010, Dialect::of2010) ? probe2013 : probe2010;
+  throw Failure(project + ": neither " + namesOfBoth("nor") + " can be read: " + telling.refusal);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "tools/cli/BrokenLink.h"
 #include "tools/cli/LastQuery.h"
 
+#include <algorithm>
 #include <array>
 #include <new>
 
@@ -25,10 +26,16 @@ constexpr std::array<Advice, 7> advices{
      {"Passed element", "this table holds the id of an element of another kind; remove that row"},
      {"Invalid serie type", "this table holds the id of an element of another kind; remove that row"}}};
 
+/// Without the name of the operation in front.
+std::string forPeople(const std::string& what) {
+  const std::size_t end = what.find(": ");
+  return end != std::string::npos && what.find("::") < end ? what.substr(end + 2) : what;
+}
+
 std::string explained(const std::string& what) {
   for (const auto& advice : advices)
     if (what.compare(0, advice.beginning.size(), advice.beginning) == 0)
-      return what + "; " + advice.text;
+      return forPeople(what) + "; " + advice.text;
   return what;
 }
 
@@ -38,9 +45,10 @@ std::string columnText(std::size_t column, const LastQuery& query) {
 }
 
 /// What stands there and what should.
-std::string faultOf(const FieldError& field, const std::exception& error) {
-  const bool isId = std::string_view(error.what()) == "stoul";
-  const std::string wanted = isId ? "a whole number from 0 to 4294967295" : "a number";
+std::string faultOf(const FieldError& field, const std::exception& error, const std::string& columnName) {
+  const bool isWhole = std::string_view(error.what()) == "stoul";
+  const bool isDate = columnName.find("Data") != std::string::npos;
+  const std::string wanted = isDate ? "a date" : isWhole ? "a whole number from 0 to 4294967295" : "a number";
   if (!field.text())
     return "is missing from the row; the table needs the columns of this dialect, in their order";
   if (field.text()->empty())
@@ -49,26 +57,31 @@ std::string faultOf(const FieldError& field, const std::exception& error) {
   if (dynamic_cast<const std::out_of_range*>(&error) == nullptr)
     return found + " where " + wanted + " must stand";
   return found + ", which does not fit: " +
-         (isId ? wanted + " must stand there" : "a priority has 32 bits, other numbers have double precision");
+         (isWhole ? wanted + " must stand there" : "a priority has 32 bits, other numbers have double precision");
 }
 
 std::string describeField(const FieldError& field, const std::exception& error, const LastQuery& query) {
-  if (field.rowId() && field.column())
-    return "row of the id " + std::to_string(*field.rowId()) + ", " + columnText(*field.column(), query) + ' ' +
-           faultOf(field, error);
-  const std::size_t row = field.text() ? rowOfId(*field.text()) : 0;
-  return (row == 0 ? "a row" : "row " + std::to_string(row)) + ", " + columnText(0, query) + ' ' +
-         faultOf(field, error);
+  std::string row = "a row";
+  if (field.rowId())
+    row = "row of the id " + std::to_string(*field.rowId());
+  else if (const std::size_t number = field.text() ? rowOfId(*field.text()) : 0)
+    row = "row " + std::to_string(number);
+  const std::string column = columnText(field.column().value_or(0), query);
+  return row + ", " + column + ' ' + faultOf(field, error, column);
 }
 
-std::string hintForMissingTable(const ImportPlace& place) {
+std::string hintForMissingPart(const ImportPlace& place) {
   const std::string other = nameOf(otherThan(place.dialect));
   return place.isDialectFound ? "; the project lacks what the " + std::string(nameOf(place.dialect)) + " dialect needs"
                               : "; the project may be of the other dialect: try --dialect " + other;
 }
 
-bool isOfMissingTable(const std::string& refusal, const LastQuery& query) {
-  return !query.table.empty() && refusal.find(query.table) != std::string::npos;
+/// Whether the reason is about the table or one of its columns.
+bool isOfMissingPart(const std::string& refusal, const LastQuery& query) {
+  const auto isNamed = [&refusal](const std::string& name) {
+    return !name.empty() && refusal.find(name) != std::string::npos;
+  };
+  return isNamed(query.table) || std::any_of(query.columns.begin(), query.columns.end(), isNamed);
 }
 
 /// The answer's form is a frequent fault of an executable of one's own.
@@ -90,7 +103,7 @@ std::string brokenLink(const ImportPlace& place) {
 std::string faultText(const std::exception& error, const LastQuery& query, const ImportPlace& place) {
   const std::string refusal = refusalOfLastQuery(place.inputs, place.plainDatabase);
   if (!refusal.empty())
-    return "cannot be read: " + refusal + (isOfMissingTable(refusal, query) ? hintForMissingTable(place) : "");
+    return "cannot be read: " + refusal + (isOfMissingPart(refusal, query) ? hintForMissingPart(place) : "");
   if (const auto* field = dynamic_cast<const FieldError*>(&error))
     return describeField(*field, error, query) + hintForOwnExecutable(place);
   const std::string what = error.what();
@@ -98,16 +111,21 @@ std::string faultText(const std::exception& error, const LastQuery& query, const
   return link.empty() ? explained(what) : link;
 }
 
+/// Around a fault: its table before it, its query behind it.
+std::string placed(const std::string& fault, const LastQuery& query) {
+  if (query.sql.empty())
+    return fault;
+  const std::string sql = query.sql.substr(0, query.sql.find_last_not_of(' ') + 1);
+  return "table " + query.table + ": " + fault + " (query: " + sql + ")";
+}
+
 } // namespace
 
 std::string reportOf(const std::exception& error, const ImportPlace& place) {
-  const std::string project = place.inputs.projectName + ": ";
   const LastQuery query = lastQuery();
-  if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr)
-    return project + "there is not enough memory for what table " + query.table + " holds";
-  if (query.sql.empty())
-    return project + error.what();
-  return project + "table " + query.table + ": " + faultText(error, query, place) + " (query: " + query.sql + ")";
+  const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  const std::string fault = isMemory ? "there is not enough memory" : faultText(error, query, place);
+  return place.inputs.projectName + ": " + placed(fault, query);
 }
 
 } // namespace LagomareCli

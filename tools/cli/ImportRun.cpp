@@ -32,7 +32,9 @@ SceneryProjectManagerRet load(const PlainNames& names, const ImportPlace& place,
   const auto loadProject =
       place.dialect == Dialect::of2010 ? LagomareProjectLoader::load2010 : LagomareProjectLoader::load2013;
   try {
-    return loadProject(names.executable, names.database, progress);
+    auto result = loadProject(names.executable, names.database, progress);
+    requireLaunched();
+    return result;
   } catch (const Failure&) {
     throw;
   } catch (const std::exception& error) {

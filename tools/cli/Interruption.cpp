@@ -2,13 +2,19 @@
 
 #include "tools/cli/Leftover.h"
 
+#include <array>
 #include <csignal>
+#include <fcntl.h>
 #include <string_view>
 #include <unistd.h>
 
 namespace LagomareCli {
 
 namespace {
+
+/// What a terminal sends to all processes in its foreground. They are ignored too, which the shells that run the
+/// queries inherit: those must outlive Ctrl-C, and may unblock signals.
+constexpr std::array<int, 2> terminalSignals{SIGINT, SIGQUIT};
 
 /// A program started by nohup goes on when its terminal closes.
 bool isIgnored(int signal) {
@@ -39,6 +45,8 @@ void tellHowToEnd() {
 Interruption::Interruption() {
   const sigset_t signals = handledSignals();
   ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  for (const int signal : terminalSignals)
+    std::signal(signal, SIG_IGN);
   thread_ = std::thread([this] { waitForSignals(); });
 }
 
@@ -90,6 +98,7 @@ void Interruption::handleSignal() {
     tellHowToEnd();
     return;
   }
+  ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO); // what the import still tries will fail; nobody wants to know
   Leftover::removeAllAtEnd();
   ::_exit(exitCode);
 }

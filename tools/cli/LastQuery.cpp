@@ -78,22 +78,26 @@ LastQuery lastQuery() {
 }
 
 std::string refusalOfLastQuery(const Inputs& inputs, const std::string& plainDatabase) {
-  const std::string answer = readAnswer(LagomareProjectManager::fileResultQuery);
+  const std::string answer = firstLineOfAnswer();
   const std::string beginning = "error:";
   if (answer.compare(0, beginning.size(), beginning) != 0)
     return "";
-  std::string reason = answer.substr(beginning.size(), answer.find('\n') - beginning.size());
+  std::string reason = answer.substr(beginning.size());
   reason.erase(reason.find_last_not_of(". \r") + 1);
   reason.erase(0, reason.find_first_not_of(' '));
-  if (reason == noAnswer)
-    return notAnswered(inputs);
-  return replaceAll(reason, plainDatabase, inputs.projectName);
+  return replaceAll(reason == noAnswer ? notAnswered(inputs) : reason, plainDatabase, inputs.projectName);
+}
+
+std::string firstLineOfAnswer() {
+  const std::string answer = readAnswer(LagomareProjectManager::fileResultQuery);
+  return answer.substr(0, answer.find('\n'));
 }
 
 std::size_t rowOfId(const std::string& idText) {
+  const std::string answer = readAnswer(LagomareProjectManager::fileResultQuery);
   std::size_t row = 0;
   std::size_t found = 0;
-  forEachLine(readAnswer(LagomareProjectManager::fileResultQuery), [&](std::string_view line) {
+  forEachLine(answer, [&](std::string_view line) {
     ++row;
     if (found == 0 && (line == idText || line.substr(0, line.find(' ')) == idText))
       found = row;
@@ -102,9 +106,11 @@ std::size_t rowOfId(const std::string& idText) {
 }
 
 void requireLaunched() {
-  if (sqlOfScript() != lastLaunchedSql())
-    throw Failure("the shell could not start the query \"" + sqlOfScript() +
-                  "\"; look for a full disk, and for limits of memory and of the number of processes");
+  const std::string launched = lastLaunchedSql();
+  const bool isChannelOpen = std::filesystem::exists(LagomareProjectManager::scriptFile);
+  if (launched.empty() || (isChannelOpen && launched != sqlOfScript()))
+    throw Failure("a query could not be started; look for a full disk under TMPDIR, for what removes files there, and "
+                  "for limits of memory and of the number of processes");
 }
 
 } // namespace LagomareCli

@@ -21,10 +21,13 @@ struct LastQuery {
 /// knows the project by.
 [[nodiscard]] std::string refusalOfLastQuery(const Inputs& inputs, const std::string& plainDatabase);
 
+[[nodiscard]] std::string firstLineOfAnswer();
+
 /// The number, from 1, of the first row whose id reads so; 0 where there is none.
 [[nodiscard]] std::size_t rowOfId(const std::string& idText);
 
-/// Throws Failure where the shell did not start the launcher for the last query, so that an old answer stands there.
+/// Throws Failure where the launcher was not started for the last query, so that an old answer stands there; once the
+/// channel is closed, where it was never started.
 void requireLaunched();
 
 } // namespace LagomareCli

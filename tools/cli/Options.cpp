@@ -91,7 +91,6 @@ std::optional<ImportOptions> parseOptions(int argumentCount, char* arguments[]) 
   const std::string version = std::string("lagomare ") + LAGOMARE_VERSION;
   CLI::App app("Reads legacy network-modelling projects", "lagomare");
   app.set_version_flag("--version", version);
-  app.require_subcommand(1);
   app.footer("Example:\n  lagomare import basin.mdb --json basin.json\n\nlagomare import --help tells the options.");
   CLI::App& import = *app.add_subcommand("import", "Import one legacy project and say what it holds");
   import.set_version_flag("--version", version);
@@ -106,6 +105,8 @@ std::optional<ImportOptions> parseOptions(int argumentCount, char* arguments[]) 
   } catch (const CLI::ParseError& error) {
     throw UsageError(error.what());
   }
+  if (!import.parsed())
+    throw UsageError("a command is missing; the one there is, is import");
   options.program = arguments[0];
   if (raw.dialect == "2010" || raw.dialect == "2013")
     options.dialect = raw.dialect == "2010" ? Dialect::of2010 : Dialect::of2013;

@@ -99,6 +99,8 @@ void OutputFile::commit() {
   leftover_->keep();
 }
 
-void OutputFile::fail(int error) const { throw Failure("cannot write " + name_ + ": " + systemText(error)); }
+void OutputFile::fail(int error) const {
+  throw Failure("cannot write " + name_ + ": " + (error == ENOENT ? "its folder does not exist" : systemText(error)));
+}
 
 } // namespace LagomareCli

@@ -69,7 +69,8 @@ OutputFolder::OutputFolder(const std::string& name) {
   if (fs::is_directory(folder, error))
     return;
   if (::mkdir(folder.c_str(), 0777) != 0)
-    throw Failure("cannot make the folder " + name + ": " + systemText(errno));
+    throw Failure("cannot make the folder " + name + ": " +
+                  (errno == EEXIST ? "a file of that name stands there" : systemText(errno)));
   leftover_.emplace([folder] { ::rmdir(folder.c_str()); });
 }
 

@@ -48,35 +48,6 @@ void redirect(int descriptor, const char* file, int flags) {
   }
 }
 
-/// Turns this process into the executable, as a shell would start it: also a script without an interpreter's line.
-[[noreturn]] void become(const char* const* arguments) {
-  redirect(STDIN_FILENO, "/dev/null", O_RDONLY);
-  redirect(STDOUT_FILENO, "/dev/null", O_WRONLY);
-  redirect(STDERR_FILENO, complaintFile, O_WRONLY | O_CREAT | O_TRUNC);
-  sigset_t none;
-  sigemptyset(&none);
-  ::sigprocmask(SIG_SETMASK, &none, nullptr);
-  std::signal(SIGPIPE, SIG_DFL);
-  ::execvp(arguments[0], const_cast<char* const*>(arguments)); // execvp changes none of them
-  const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
-  static_cast<void>(::write(STDERR_FILENO, complaint.data(), complaint.size()) < 0);
-  ::_exit(couldNotStart);
-}
-
-int run(const char* const* arguments) {
-  const pid_t child = ::fork();
-  if (child == 0)
-    become(arguments);
-  int status = 0;
-  while (child > 0 && ::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-  }
-  if (child > 0 && WIFSIGNALED(status))
-    std::ofstream(complaintFile, std::ios::app) << "it was ended by signal " << WTERMSIG(status) << '\n';
-  return child > 0 && WIFEXITED(status) ? WEXITSTATUS(status) : couldNotStart;
-}
-
-std::string errorLine(const std::string& reason) { return "error: " + reason + " .\n"; }
-
 bool writeFile(const std::string& name, const std::string& text) {
   std::error_code error;
   fs::remove(name, error); // whatever a query made of it
@@ -85,6 +56,51 @@ bool writeFile(const std::string& name, const std::string& text) {
   file.close();
   return !file.fail();
 }
+
+/// Makes this process a group of its own, out of reach of a terminal's Ctrl-C, and finds the executable's path. The
+/// group is on file before the link is read: whoever takes the link away first and then reads the group knows of every
+/// query that can still start.
+std::string joinOwnGroup() {
+  ::setpgid(0, 0);
+  std::error_code error;
+  if (!writeFile(groupFile, std::to_string(::getpid())))
+    return "";
+  return fs::read_symlink(executableLink, error).string();
+}
+
+/// Turns this process into the executable, as a shell would start it: also a script without an interpreter's line.
+[[noreturn]] void become(std::vector<char*> words) {
+  redirect(STDIN_FILENO, "/dev/null", O_RDONLY);
+  redirect(STDOUT_FILENO, "/dev/null", O_WRONLY);
+  redirect(STDERR_FILENO, complaintFile, O_WRONLY | O_CREAT | O_TRUNC);
+  ::setenv("TMPDIR", fs::current_path().c_str(), 1); // what a query leaves there is removed with the rest
+  std::string executable = joinOwnGroup();
+  if (executable.empty())
+    ::_exit(couldNotStart);
+  words.front() = executable.data();
+  words.push_back(nullptr);
+  sigset_t none;
+  sigemptyset(&none);
+  ::sigprocmask(SIG_SETMASK, &none, nullptr);
+  for (const int signal : {SIGINT, SIGQUIT, SIGPIPE})
+    std::signal(signal, SIG_DFL);
+  ::execvp(executable.c_str(), words.data());
+  const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
+  static_cast<void>(::write(STDERR_FILENO, complaint.data(), complaint.size()) < 0);
+  ::_exit(couldNotStart);
+}
+
+/// The exit code of a child process; one that a signal ended leaves a complaint.
+int waitFor(pid_t child) {
+  int status = 0;
+  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  if (WIFSIGNALED(status))
+    std::ofstream(complaintFile, std::ios::app) << "it was ended by signal " << WTERMSIG(status) << '\n';
+  return WIFEXITED(status) ? WEXITSTATUS(status) : couldNotStart;
+}
+
+std::string errorLine(const std::string& reason) { return "error: " + reason + " .\n"; }
 
 /// On a full disk an error line takes the answer's place without a byte being written.
 bool forbidOldAnswer(const std::string& sql) {
@@ -101,7 +117,7 @@ bool forbidOldAnswer(const std::string& sql) {
 const char* const noAnswer = "the query executable did not answer";
 
 PlainNames installLauncher(const fs::path& program, const fs::path& executable, const fs::path& database) {
-  const std::string databaseName = "project" + plainEnding(database);
+  const std::string databaseName = "lagomare-project" + plainEnding(database);
   std::error_code error;
   fs::create_symlink(program, launcherName, error);
   if (!error)
@@ -116,25 +132,21 @@ PlainNames installLauncher(const fs::path& program, const fs::path& executable, 
 
 bool isLauncher(const std::string& calledAs) { return calledAs == std::string("./") + launcherName; }
 
-int launchQuery(char* const arguments[]) {
-  std::vector<const char*> words;
+int launchQuery(char* arguments[]) {
+  std::vector<char*> words;
   for (; *arguments != nullptr; ++arguments)
     words.push_back(*arguments);
-  const bool isQuery = words.size() > 2;
-  ::setpgid(0, 0);
-  // The group is on file before the link is read: whoever takes the link away first and then reads the group knows of
-  // every query that can still start.
-  if (!isQuery || !forbidOldAnswer(words[2]) || !writeFile(groupFile, std::to_string(::getpid())))
+  const std::string sql = words.size() > 2 ? words[2] : "";
+  if (sql.empty() || !forbidOldAnswer(sql))
     return couldNotStart;
+  const pid_t child = ::fork();
+  if (child == 0)
+    become(std::move(words));
+  const int exitCode = child < 0 ? couldNotStart : waitFor(child);
   std::error_code error;
-  const std::string executable = fs::read_symlink(executableLink, error).string();
-  if (error)
-    return couldNotStart;
-  words[0] = executable.c_str();
-  words.push_back(nullptr);
-  ::setenv("TMPDIR", fs::current_path().c_str(), 1); // what a query leaves there is removed with the rest
-  const int exitCode = run(words.data());
   fs::remove(groupFile, error);
+  if (!fs::exists(LagomareProjectManager::fileResultQuery, error)) // an executable may clear an old answer away
+    static_cast<void>(forbidOldAnswer(sql));
   return exitCode;
 }
 

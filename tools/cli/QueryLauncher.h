@@ -22,8 +22,8 @@ struct PlainNames {
 /// Whether the program was called as the launcher.
 [[nodiscard]] bool isLauncher(const std::string& calledAs);
 
-/// Runs one query to its end as a process group of its own, out of reach of a terminal's Ctrl-C; returns the exit code.
-[[nodiscard]] int launchQuery(char* const arguments[]);
+/// Runs one query to its end, as a process group of its own; returns the exit code.
+[[nodiscard]] int launchQuery(char* arguments[]);
 
 /// Ends the query that runs in a private directory, if any, with what it started; no other one can start there.
 void stopQuery(const std::filesystem::path& directory);
