@@ -1,0 +1,103 @@
+#include "access/Answer.h"
+
+#include "access/FieldError.h"
+#include "access/Fields.h"
+#include "access/ValueResult.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+#include <sstream>
+
+using namespace testing;
+
+namespace {
+
+/// The rows of an answer, read without a thought for speed.
+QueryResult naiveRows(const std::string& text) {
+  QueryResult rows;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.empty() || line == "\r")
+      continue;
+    Row row;
+    std::istringstream fields(line + ' ');
+    for (std::string field; std::getline(fields, field, ' ');)
+      row.push_back(field);
+    row.pop_back();
+    if (row.empty())
+      throw std::invalid_argument("stoul");
+    const std::uint64_t key = std::stoul(row[0]);
+    if (key > UINT32_MAX)
+      throw std::out_of_range("stoul");
+    rows[static_cast<std::uint32_t>(key)].push_back(row);
+  }
+  return rows;
+}
+
+template <typename Read>
+std::string printed(Read read) {
+  try {
+    return PrintToString(read());
+  } catch (const std::exception& error) {
+    return error.what();
+  }
+}
+
+/// What the two readings of an answer say of each row's value.
+std::string valuesByRows(const std::string& text) {
+  std::string all;
+  for (const auto& [id, rows] : parseRows(text))
+    for (const Row& row : rows)
+      all += std::to_string(id) + ": " + printed([&row = row] { return numberAt(row, 1); }) + '\n';
+  return all;
+}
+
+std::string valuesByColumns(const std::string& text) {
+  std::string all;
+  ValueResult(text).forEachId([&all](std::uint32_t id, const ValueColumn& column) {
+    for (std::size_t row = 0; row < column.size(); ++row)
+      all += std::to_string(id) + ": " + printed([&column, row] { return column.numberAt(row); }) + '\n';
+  });
+  return all;
+}
+
+void expectAsNaive(const std::string& text) {
+  const std::string shown = PrintToString(text);
+  EXPECT_EQ(printed([&] { return parseRows(text); }), printed([&] { return naiveRows(text); })) << shown;
+  EXPECT_EQ(printed([&] { return valuesByColumns(text); }), printed([&] { return valuesByRows(text); })) << shown;
+}
+
+} // namespace
+
+TEST(AnswerTest, HoldsTheRowsOfEachIdInTheOrderOfTheFile) {
+  EXPECT_EQ(parseRows("5 a x\n10 b .\n9 .\n5  b x"),
+            (QueryResult{{5, {{"5", "a"}, {"5", "", "b"}}}, {9, {{"9"}}}, {10, {{"10", "b"}}}}));
+  EXPECT_EQ(parseRows("15/01/1990 2 .\r\n\r\n\n").at(15), (std::vector<Row>{{"15/01/1990", "2"}}));
+  EXPECT_EQ(parseRows("-1 .\n").begin()->first, 4294967295U);
+  EXPECT_TRUE(parseRows("").empty());
+}
+
+TEST(AnswerTest, ThrowsForALineWithoutAnId) {
+  for (const char* text : {"1 .\nx .\n", "1 .\n .\n", "1 .\n7\n", "1 .\n \n", "+ ."})
+    EXPECT_THAT([text] { static_cast<void>(parseRows(text)); }, ThrowsMessage<InvalidField>("stoul")) << text;
+  for (const char* text : {"4294967296 .", "1 .\n99999999999999999999 .\n"})
+    EXPECT_THAT([text] { static_cast<void>(parseRows(text)); }, ThrowsMessage<FieldOutOfRange>("stoul")) << text;
+}
+
+TEST(AnswerTest, IsReadAsByANaiveReader) {
+  static const std::vector<std::string> pieces{"1", "2",  "10", "9",  "007",  "3.5",  "2e3", "x",    " ",       " ",
+                                               " ", " .", "\n", "\n", " .\n", " .\n", "\r",  "\r\n", "\xC2\xA0"};
+  std::mt19937 engine(1);
+  for (int i = 0; i < 20000 && !HasFailure(); ++i) {
+    std::string text;
+    for (auto length = engine() % 16; length > 0; --length)
+      text += pieces[engine() % pieces.size()];
+    expectAsNaive(text);
+    // Well-formed: ids in runs or not, values of all sorts, rows that lack theirs.
+    text.clear();
+    for (auto rows = engine() % 12; rows > 0; --rows)
+      text += std::to_string(engine() % 4) + (engine() % 8 == 0 ? "" : " " + pieces[engine() % 8]) + " .\n";
+    expectAsNaive(text);
+  }
+}

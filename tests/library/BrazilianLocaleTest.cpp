@@ -1,0 +1,59 @@
+#include "ImportFixture.h"
+
+#include "model/Reservoir.h"
+#include "model/ScenarioManager.h"
+
+#include <clocale>
+#include <locale>
+
+using namespace testing;
+
+namespace {
+
+/// Every number that the project gives, as numbers and in texts that the import makes of numbers.
+std::vector<double> numbersOf(const std::shared_ptr<Scenario>& scenario) {
+  const auto reservoir = find<Reservoir>(scenario, 1);
+  const auto& info = reservoir->getReservoirInfo();
+  std::vector<double> numbers{reservoir->getX(), reservoir->getY(), info.initialVolume, info.maximumVolume};
+  for (const auto& serie : reservoir->getVectorOfSeries(0))
+    for (const double value : valuesOf(*serie))
+      numbers.push_back(value);
+  return numbers;
+}
+
+/// Puts the process under pt_BR.UTF-8, whose decimal point is a comma, made in the test's directory: machines rarely
+/// have it.
+class BrazilianLocaleTest : public DialectTest {
+protected:
+  void SetUp() override {
+    ASSERT_EQ(std::system("mkdir locales && localedef -i pt_BR -f UTF-8 ./locales/pt_BR.UTF-8"), 0);
+    setenv("LOCPATH", (std::filesystem::current_path() / "locales").c_str(), 1);
+    setenv("LC_ALL", "pt_BR.UTF-8", 1);
+  }
+  void TearDown() override {
+    std::locale::global(std::locale::classic());
+    unsetenv("LC_ALL");
+    unsetenv("LOCPATH");
+  }
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Dialects, BrazilianLocaleTest, bothDialects, dialectName);
+
+TEST_P(BrazilianLocaleTest, ReadsTheSameNumbers) {
+  const std::string project = R"(
+    insert into reservoir values (1, 'R', 472297.25, 7986229.5, 19528.125, 4250.5, 12345.75, 1);
+    insert into flow select 1, 1000.5 + month / 8.0 from month;
+    insert into evaporation select 1, month * 0.3 from month;)";
+  const auto expected = numbersOf(load(project));
+  ASSERT_EQ(expected.size(), 52U);
+
+  std::locale::global(std::locale("pt_BR.UTF-8"));
+  ASSERT_STREQ(localeconv()->decimal_point, ",");
+  ASSERT_EQ(std::stod("3.5"), 3.0) << "the locale is not in force";
+  ScenarioManager::instance = 1234567;
+  const auto scenario = load(project);
+  EXPECT_EQ(numbersOf(scenario), expected);
+  EXPECT_EQ(scenario->getName(), "Scenario1234567");
+}

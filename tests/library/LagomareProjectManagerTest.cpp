@@ -1,0 +1,71 @@
+#include "access/LagomareProjectManager.h"
+
+#include "ImportFixture.h"
+
+using namespace testing;
+
+namespace {
+
+/// Asks a channel whose executable does nothing: what stands in the answer file is the answer.
+class LagomareProjectManagerTest : public WorkingDirectoryTest {
+protected:
+  LagomareProjectManagerTest() { LagomareProjectManager::getInstance("a b.db")->setApiExecutable(":"); }
+
+  static QueryResult ask() { return LagomareProjectManager::getInstance()->query("select 1", true); }
+};
+
+} // namespace
+
+TEST_F(LagomareProjectManagerTest, WritesOneLineWithNothingEscaped) {
+  const auto* channel = LagomareProjectManager::getInstance();
+  channel->buildScript("select * from T where a = 'b' -- a long one", true);
+  channel->buildScript("select $1", false);
+  EXPECT_EQ(read("script.bat"), ": \"a b.db\" \"select $1\" 0\n");
+  LagomareProjectManager::getInstance()->setApiExecutable("C:\\tools\\query.exe --fast");
+  channel->buildScript("select * from Pontos", true);
+  EXPECT_EQ(read("script.bat"), "C:\\tools\\query.exe --fast \"a b.db\" \"select * from Pontos\" 1\n");
+}
+
+TEST_F(LagomareProjectManagerTest, KeepsItsFirstDatabaseUntilItIsCleaned) {
+  auto* const channel = LagomareProjectManager::getInstance("other.db");
+  EXPECT_EQ(channel, LagomareProjectManager::getInstance());
+  ask();
+  EXPECT_EQ(read("script.bat"), ": \"a b.db\" \"select 1\" 1\n");
+  LagomareProjectManager::cleanInstance();
+  LagomareProjectManager::cleanInstance();
+  EXPECT_EQ(LagomareProjectManager::lagomareProjectManager, nullptr);
+  LagomareProjectManager::getInstance("other.db")->buildScript("select 1", true);
+  EXPECT_EQ(read("script.bat"), " \"other.db\" \"select 1\" 1\n") << "a new channel knows no executable";
+}
+
+TEST_F(LagomareProjectManagerTest, LeavesNoFilesAndNoInstanceWhenCleaned) {
+  write("query-result.txt", "1 .\n");
+  ask();
+  LagomareProjectManager::cleanInstance();
+  EXPECT_TRUE(std::filesystem::is_empty("."));
+  EXPECT_THAT(
+      [] { static_cast<void>(LagomareProjectManager::getInstance()); },
+      ThrowsMessage<std::runtime_error>("LagomareProjectManager::getInstance(): database filename not initialized"));
+}
+
+TEST_F(LagomareProjectManagerTest, ReadsAnOldAnswerAgainWhereNoNewOneIsWritten) {
+  EXPECT_TRUE(ask().empty()) << "there is no file yet";
+  write("query-result.txt", "7 x .\n");
+  const QueryResult answer{{7, {{"7", "x"}}}};
+  EXPECT_EQ(ask(), answer);
+  EXPECT_EQ(ask(), answer);
+}
+
+TEST_F(LagomareProjectManagerTest, RunsTheExecutableWithThreeArguments) {
+  write("tool", "for argument; do echo \"1 ${#argument} .\"; done >query-result.txt");
+  LagomareProjectManager::getInstance()->setApiExecutable("sh tool");
+  EXPECT_EQ(ask(), (QueryResult{{1, {{"1", "6"}, {"1", "8"}, {"1", "1"}}}}));
+}
+
+TEST_F(LagomareProjectManagerTest, ThrowsWhatALineWithoutAnIdThrows) {
+  write("query-result.txt", "1 .\nerror: no such table .\n");
+  EXPECT_THAT(ask, ThrowsMessage<std::invalid_argument>("stoul"));
+  EXPECT_THAT([] { static_cast<void>(LagomareProjectManager::getInstance()->queryValues("select 1", true)); },
+              ThrowsMessage<std::invalid_argument>("stoul"));
+  EXPECT_THAT(read("query-result.txt"), StartsWith("1 ."));
+}

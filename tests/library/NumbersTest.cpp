@@ -1,0 +1,146 @@
+#include "access/Numbers.h"
+
+#include "access/FieldError.h"
+#include "access/Fields.h"
+
+#include <gmock/gmock.h>
+
+#include <array>
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <random>
+#include <sstream>
+
+using namespace testing;
+
+namespace {
+
+/// A number to the bit, or the kind and text of the error.
+template <typename Convert>
+std::string outcomeOf(Convert convert, const std::string& text) {
+  try {
+    std::array<char, 40> bits{};
+    std::snprintf(bits.data(), bits.size(), "%a", static_cast<double>(convert(text)));
+    return bits.data();
+  } catch (const std::invalid_argument& error) {
+    return std::string("invalid ") + error.what();
+  } catch (const std::out_of_range& error) {
+    return std::string("out of range ") + error.what();
+  }
+}
+
+/// std::stoul as it is where its numbers have 32 bits.
+std::uint32_t standardUnsigned(const std::string& text) {
+  const std::uint64_t number = std::stoul(text);
+  const bool isNegative = text.find('-') < text.find_first_of("0123456789");
+  if ((isNegative ? 0 - number : number) > UINT32_MAX)
+    throw std::out_of_range("stoul");
+  return static_cast<std::uint32_t>(number);
+}
+
+/// std::stod, which C libraries disagree about where a subnormal number is exact.
+double standardDouble(const std::string& text) {
+  const double number = std::stod(text);
+  return number != 0.0 && std::fabs(number) < DBL_MIN ? throw std::out_of_range("stod") : number;
+}
+
+void expectStandard(const std::string& text) {
+  EXPECT_EQ(outcomeOf(toUnsigned, text), outcomeOf(standardUnsigned, text)) << '"' << text << '"';
+  EXPECT_EQ(outcomeOf(toDouble, text), outcomeOf(standardDouble, text)) << '"' << text << '"';
+}
+
+/// Mostly something like a number.
+std::string randomText(std::mt19937& engine) {
+  static const std::string letters = "0123456789012345678901234567890123456789....+-+-eEeExXpP \t,;aAfFinINty()_";
+  static const std::array<const char*, 5> formats{"%.17g", "%.4f", "%.0f", "%a", "%.25e"};
+  std::array<char, 400> text{};
+  if (engine() % 2 == 0) {
+    const std::uint64_t bits = std::uint64_t{engine()} << 32U | engine();
+    double number = static_cast<double>(engine()) / 4096.0;
+    if (engine() % 4 == 0)
+      std::memcpy(&number, &bits, sizeof number);
+    std::snprintf(text.data(), text.size(), formats[engine() % formats.size()], number);
+  }
+  std::string mixed = text.data();
+  for (auto length = engine() % (mixed.empty() ? 12 : 3); length > 0; --length)
+    mixed.insert(engine() % (mixed.size() + 1), 1, letters[engine() % letters.size()]);
+  return mixed;
+}
+
+} // namespace
+
+TEST(NumbersTest, ConvertAwkwardTextsAsTheStandardDoes) {
+  const std::string nines(400, '9');
+  const std::string zeros(400, '0');
+  std::istringstream texts(
+      "| |+|-|--1|+-1|-+1|++1|- 1|0|-0|007|1e5|1e+05|1E-5|1.5e|1e+|1e-x|.5|5.|.|-.|.e1|-.5e-3x|0x10|0x|0x.|"
+      "0x.8p1|0xg|-0X1P-3|0x.g|0x1p|0x1.8p+|inf|-INFINITY|infin|in|nan|-nan|NAN(12)|nan(|nanx|1,5|1.234,5|"
+      "1 2|\t\n\v\f\r 7|\u00A07|15/01/1990|7..5|7-5|1_000|e5|x10|4294967295|4294967296|-1|-4294967295|"
+      "-4294967296|18446744073709551616|1e308|1e309|-1e309|1.7976931348623157e308|1.7976931348623159e308|"
+      "0x1p1024|0x1.fffffffffffff8p1023|2.2250738585072014e-308|2.2250738585072009e-308|-5e-324|1e-400|"
+      "0x1p-1074|0e999999999|1e999999999999999999999|1e-999999999999999999999|9007199254740993|"
+      "0.1000000000000000055511151231257827|" +
+      nines + "|0." + zeros + "1|." + nines + '|' + zeros + "7|" + nines + "e-400|0." + zeros + "1e400");
+  for (std::string text; std::getline(texts, text, '|');)
+    expectStandard(text);
+  expectStandard(std::string("7\0005", 3));
+}
+
+TEST(NumbersTest, ConvertRandomTextsAsTheStandardDoes) {
+  std::mt19937 engine(20130501);
+  for (int i = 0; i < 100000 && !HasFailure(); ++i) {
+    const std::string text = randomText(engine);
+    // Standard libraries disagree about two signs in a binary exponent.
+    if (text.find("p+-") == std::string::npos)
+      expectStandard(text);
+  }
+}
+
+TEST(NumbersTest, TruncateTowardZeroWithinTheInteger) {
+  struct Case {
+    const char* text;
+    double asInt, asUnsigned; ///< NaN: out of range
+  };
+  const double out = std::nan("");
+  for (const auto& [text, asInt, asUnsigned] : {Case{"2.9", 2, 2},
+                                                {"-0.9", 0, 0},
+                                                {"-1.5", -1, out},
+                                                {"-1", -1, out},
+                                                {"1e10", out, out},
+                                                {"nan", out, out},
+                                                {"-inf", out, out},
+                                                {"2147483647.9", 2147483647, 2147483647},
+                                                {"2147483648", out, 2147483648},
+                                                {"-2147483648.9", -2147483648.0, out},
+                                                {"-2147483649", out, out},
+                                                {"4294967295.9", out, 4294967295},
+                                                {"4294967296", out, out}}) {
+    const auto number = [](double value) { return std::isnan(value) ? throw std::out_of_range("stod") : value; };
+    EXPECT_EQ(outcomeOf(toTruncatedInt, text), outcomeOf([&](auto&) { return number(asInt); }, "")) << text;
+    EXPECT_EQ(outcomeOf(toTruncatedUnsigned, text), outcomeOf([&](auto&) { return number(asUnsigned); }, "")) << text;
+  }
+}
+
+TEST(NumbersTest, ErrorsTellTextRowAndColumn) {
+  const Row row{"7", "east", "1e999", "4294967296"};
+  const auto expectError = [&row](auto read, std::size_t column, const char* what, std::optional<std::string> text) {
+    try {
+      static_cast<void>(read(row, column));
+      ADD_FAILURE() << "column " << column << " was read";
+    } catch (const FieldError& error) {
+      EXPECT_STREQ(dynamic_cast<const std::exception&>(error).what(), what);
+      EXPECT_EQ(error.text(), text);
+      EXPECT_EQ(error.rowId(), 7U);
+      EXPECT_EQ(error.column(), column);
+    }
+  };
+  expectError(numberAt, 1, "stod", "east");
+  expectError(numberAt, 2, "stod", "1e999");
+  expectError(unsignedAt, 3, "stoul", "4294967296");
+  expectError(truncatedIntAt, 3, "stod", "4294967296");
+  expectError(textAt, 4, "a row of the id 7 has no column 4", std::nullopt);
+  EXPECT_THROW(static_cast<void>(textAt(row, 4)), std::out_of_range);
+  EXPECT_THAT([] { static_cast<void>(toDouble("east")); },
+              Throws<InvalidField>(Property(&FieldError::rowId, Eq(std::nullopt))));
+}
