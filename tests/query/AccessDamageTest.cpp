@@ -36,7 +36,13 @@ void limitThisProcess() {
     _exit(3);
 }
 
-class AccessDamageTest : public QueryTest, public testing::WithParamInterface<std::pair<const char*, const char*>> {};
+struct Damaged {
+  const char* name;
+  const char* sample;
+  const char* sql;
+};
+
+class AccessDamageTest : public QueryTest, public testing::WithParamInterface<Damaged> {};
 
 /// LAGOMARE_DAMAGE_TRIES sets how often, LAGOMARE_DAMAGE_SEED from where.
 unsigned fromEnvironment(const char* name, unsigned otherwise) {
@@ -45,7 +51,7 @@ unsigned fromEnvironment(const char* name, unsigned otherwise) {
 }
 
 TEST_P(AccessDamageTest, EveryTryAnswersFullyOrWithAnError) {
-  const auto& [sample, sql] = GetParam();
+  const auto& [name, sample, sql] = GetParam();
   const std::string file = std::string(SAMPLES) + "/" + sample;
   const std::string bytes = contentOf(file);
   const std::string whole = answer(file, sql);
@@ -70,10 +76,12 @@ TEST_P(AccessDamageTest, EveryTryAnswersFullyOrWithAnError) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, AccessDamageTest,
-                         testing::Values(std::pair("types.mdb", "SELECT * FROM Tipos"),
-                                         std::pair("types.mdb", "SELECT * FROM \"Tabela com espaço\""),
-                                         std::pair("example-2010.mdb", "SELECT * FROM Vazao"),
-                                         std::pair("example-2013.accdb", "SELECT * FROM LgmDemDemSC")));
+                         testing::Values(Damaged{"Types", "types.mdb", "SELECT * FROM Tipos"},
+                                         Damaged{"Names", "types.mdb", "SELECT * FROM \"Tabela com espaço\""},
+                                         Damaged{"Access97", "jet3.mdb", "SELECT * FROM Nós"},
+                                         Damaged{"Access2000", "example-2010.mdb", "SELECT * FROM Vazao"},
+                                         Damaged{"Access2010", "example-2013.accdb", "SELECT * FROM LgmDemDemSC"}),
+                         [](const testing::TestParamInfo<Damaged>& tried) { return std::string(tried.param.name); });
 
 } // namespace
 } // namespace LagomareQuery

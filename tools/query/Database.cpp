@@ -25,7 +25,7 @@ std::string firstBytes(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream)
     throw QueryError("the database '" + file.string() +
-                     "' cannot be opened: " + std::generic_category().message(errno));
+                     "' cannot be opened: " + std::generic_category().message(errno) + "; check that you may read it");
   std::array<char, jetSignature.size()> bytes{};
   stream.read(bytes.data(), bytes.size());
   return {bytes.data(), static_cast<std::size_t>(stream.gcount())};

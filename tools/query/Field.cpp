@@ -12,10 +12,17 @@ namespace {
 
 constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
-constexpr std::string_view rowEnd = ".\n";                      // the field that the reader discards
-constexpr std::size_t chunkBytes = AnswerFile::largestRoom / 4; // each byte may become three
+constexpr std::string_view rowEnd = ".\n"; // the field that the reader discards
+constexpr std::size_t chunkBytes = AnswerFile::largestRoom / 4;
 
 char* append(char* to, std::string_view bytes) { return std::copy(bytes.begin(), bytes.end(), to); }
+
+/// Bytes that the text begins with and that are written as they are, each a character.
+std::size_t plainLength(std::string_view text) {
+  const auto special =
+      std::find_if(text.begin(), text.end(), [](char character) { return character <= ' ' || character >= 0x7F; });
+  return static_cast<std::size_t>(special - text.begin());
+}
 
 /// Blanks and line breaks would end the field or the row.
 bool mustBecomeNoBreakSpace(std::string_view character) {
@@ -78,7 +85,7 @@ void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
   const std::size_t roomForNumbers = static_cast<std::size_t>(columns) * (numberRoom + 1) + rowEnd.size();
   char* to = m_answer.room(roomForNumbers);
   for (int column = 0; column < columns; ++column) {
-    sqlite3_value* value = sqlite3_column_value(row, column);
+    sqlite3_value* value = sqlite3_column_value(row, column); // unprotected: read by this thread alone
     const int type = sqlite3_value_type(value);
     if (type == SQLITE_INTEGER) {
       to = writeNumber(to, std::int64_t{sqlite3_value_int64(value)});
@@ -97,15 +104,18 @@ void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
 
 void FieldWriter::writeText(std::string_view text) {
   while (!text.empty()) {
-    char* to = m_answer.room(AnswerFile::largestRoom);
-    for (std::size_t done = 0; done < chunkBytes && !text.empty();) {
+    std::string_view chunk = text.substr(0, chunkBytes);
+    char* to = m_answer.room(chunk.size() + replacementCharacter.size());
+    const std::size_t plain = plainLength(chunk);
+    to = append(to, chunk.substr(0, plain));
+    text.remove_prefix(plain);
+    if (plain < chunk.size()) {
       const std::size_t length = utf8CharacterLength(text);
       const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
       to = append(to, length == 0                         ? replacementCharacter
                       : mustBecomeNoBreakSpace(character) ? noBreakSpace
                                                           : character);
       text.remove_prefix(character.size());
-      done += character.size();
     }
     m_answer.taken(to);
   }

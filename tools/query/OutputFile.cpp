@@ -110,11 +110,10 @@ void OutputFile::rewrite(std::string_view content) {
 }
 
 void OutputFile::replace(std::string_view content) {
-  const int firstError = errno;
   std::string newPath = m_path;
   m_descriptor = openReplacement(newPath);
   if (m_descriptor < 0)
-    fail(firstError);
+    fail(errno);
   const bool written = writeSome(m_descriptor, content, 0) == static_cast<long long>(content.size());
   if (written && moveOver(newPath, m_path) == 0)
     return;
@@ -151,8 +150,8 @@ void OutputFile::close() {
 }
 
 void OutputFile::fail(int error) const {
-  const std::string reason = error == ELOOP ? "it is a symbolic link" : std::generic_category().message(error);
-  throw QueryError("'" + m_path + "' cannot be written in the working directory: " + reason +
+  throw QueryError("'" + m_path +
+                   "' cannot be written in the working directory: " + std::generic_category().message(error) +
                    "; make room for it, or start in a folder that you may write to");
 }
 

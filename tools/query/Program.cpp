@@ -59,49 +59,38 @@ void requireOtherFile(const std::vector<std::string>& words) {
     throw QueryError(std::string("the database is the file ") + answerName + ", which the answer would overwrite");
 }
 
-int report(const std::string& reason) {
-  std::cerr << "lagomare-query: error: " << inOneLine(reason) << '\n';
-  return EXIT_FAILURE;
+/// The text to print for a call that asks for no answer; none for any other call.
+const char* helpFor(const std::vector<std::string>& words) {
+  if (words.size() != 1)
+    return nullptr;
+  if (words[0] == "--help" || words[0] == "-h")
+    return usage;
+  return words[0] == "--version" ? "lagomare-query " LAGOMARE_VERSION "\n" : nullptr;
 }
 
-/// Runs `body`; what it throws is told to `onFailure` and is what this returns the exit code of.
-template <typename Body, typename OnFailure>
-int reporting(Body body, OnFailure onFailure) {
+} // namespace
+
+int runProgram(const std::vector<std::string>& words) {
+  if (const char* help = helpFor(words)) {
+    std::cout << help;
+    return EXIT_SUCCESS;
+  }
+  std::optional<AnswerFile> file;
   std::string reason;
   try {
-    body();
+    requireOtherFile(words);
+    file.emplace(answerName);
+    answer(parseCall(words), *file);
     return EXIT_SUCCESS;
   } catch (const std::bad_alloc&) {
     reason = "out of memory";
   } catch (const std::exception& error) {
     reason = error.what();
   }
-  onFailure(reason);
-  return report(reason);
-}
-
-} // namespace
-
-int runProgram(const std::vector<std::string>& words) {
-  if (words.size() == 1 && (words[0] == "--help" || words[0] == "-h")) {
-    std::cout << usage;
-    return EXIT_SUCCESS;
-  }
-  if (words.size() == 1 && words[0] == "--version") {
-    std::cout << "lagomare-query " LAGOMARE_VERSION "\n";
-    return EXIT_SUCCESS;
-  }
-  std::optional<AnswerFile> file;
-  return reporting(
-      [&] {
-        requireOtherFile(words);
-        file.emplace(answerName);
-        answer(parseCall(words), *file);
-      },
-      [&](const std::string& reason) {
-        if (file)
-          file->fail(reason);
-      });
+  if (file)
+    file->fail(reason);
+  std::cerr << "lagomare-query: error: " << inOneLine(reason) << '\n';
+  return EXIT_FAILURE;
 }
 
 } // namespace LagomareQuery

@@ -51,26 +51,30 @@ Database openCopy(const fs::path& file) {
   return {copy, std::move(connection), file, std::nullopt};
 }
 
-} // namespace
+bool holdsBytes(const fs::path& file, const char* suffix) { return FileStamp::of(fs::path(file) += suffix).size > 0; }
 
-Database openSqliteDatabase(const fs::path& given) {
-  const fs::path file = fs::canonical(given); // a -wal file stands beside the file, not beside a link to it
-  const fs::path walFile = fs::path(file) += "-wal";
-  const FileStamp stamp = FileStamp::of(file);
-  if (FileStamp::of(walFile).size > 0)
-    return openCopy(file);
-
-  // In write-ahead mode SQLite makes files beside the database even to read it, unless told that nothing changes it.
-  const bool immutable = isWriteAheadMode(file) || fs::exists(walFile);
-  Connection connection = openConnection(uriOf(file, immutable ? "mode=ro&immutable=1" : "mode=ro"),
-                                         SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+Database openInPlace(const fs::path& file, const char* parameters, std::optional<FileStamp> stamp) {
+  Connection connection = openConnection(uriOf(file, parameters), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   prepareForQueries(connection.get());
   const int result = readForTheFirstTime(connection.get());
-  if (result == SQLITE_READONLY_ROLLBACK || result == SQLITE_READONLY_RECOVERY)
+  if (result == SQLITE_READONLY_ROLLBACK || result == SQLITE_READONLY_RECOVERY) // a hot journal
     return openCopy(file);
   if (result != SQLITE_OK)
     throwSqliteError(connection.get());
-  return {nullptr, std::move(connection), file, immutable ? std::optional(stamp) : std::nullopt};
+  return {nullptr, std::move(connection), file, stamp};
+}
+
+} // namespace
+
+Database openSqliteDatabase(const fs::path& given) {
+  const fs::path file = fs::canonical(given); // its companions stand beside the file, not beside a link to it
+  const FileStamp stamp = FileStamp::of(file);
+  if (holdsBytes(file, "-wal"))
+    return openCopy(file);
+  if (!isWriteAheadMode(file) && !fs::exists(fs::path(file) += "-wal"))
+    return openInPlace(file, "mode=ro", std::nullopt); // SQLite locks it, and notices a hot journal
+  // In write-ahead mode SQLite makes files beside the database even to read it, unless told that nothing changes it.
+  return holdsBytes(file, "-journal") ? openCopy(file) : openInPlace(file, "mode=ro&immutable=1", stamp);
 }
 
 } // namespace LagomareQuery

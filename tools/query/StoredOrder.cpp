@@ -104,7 +104,10 @@ void shadowViews(sqlite3* connection) {
 
 /// Whether a word of the SQL may mean a rowid.
 bool mentionsRowid(const std::string& sql) {
-  const auto isWordCharacter = [](char c) { return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0; };
+  const auto isWordCharacter = [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return c == '_' || byte >= 0x80 || std::isalnum(byte) != 0;
+  };
   for (auto begin = sql.begin(); begin != sql.end();) {
     const auto end = std::find_if_not(begin, sql.end(), isWordCharacter);
     const std::string word(begin, end);
