@@ -14,7 +14,7 @@ namespace LagomareBench {
 template <typename Call>
 [[nodiscard]] double secondsOf(Call call) {
   const double begin = processorSeconds();
-  const auto result = call();
+  [[maybe_unused]] const auto result = call();
   return processorSeconds() - begin;
 }
 

@@ -57,6 +57,8 @@ int run(std::vector<char*> words) {
   addParserBenches(works, setting);
   addNumberBenches(works);
   addSeriesBenches(works);
+  addQueryBenches(works, setting);
+  addImportBenches(works, setting);
   const bool succeeded = runRounds(rounds);
   works.print(std::cout);
   growths.print(std::cout);
