@@ -1,0 +1,96 @@
+#include "CommandTest.h"
+
+#include <fcntl.h>
+#include <nlohmann/json.hpp>
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class ImportCommandTest : public CommandTest {};
+
+TEST_F(ImportCommandTest, TellsWhatWasFound) {
+  const Ending ending = import({project()});
+  EXPECT_EQ(ending.exitCode, 0);
+  EXPECT_EQ(ending.err, "");
+  EXPECT_EQ(ending.out, "Importação realizada com sucesso\n"
+                        "  dialect               2013 (found by its tables)\n"
+                        "  UTM zone              23S (assumed; --utm-zone sets another)\n"
+                        "  scenario              Scenario1\n"
+                        "  period                2000-01 to 2000-12 (12 months)\n"
+                        "  hydrological states   2 (Padrão; boundaries 0.5)\n"
+                        "  reservoirs            2\n"
+                        "  demands               1\n"
+                        "  drains                1\n"
+                        "  junctions             1\n"
+                        "  links                 4 (3 natural, 1 artificial; 1 bidirectional)\n");
+  EXPECT_THAT(import({project2010(), "--utm-zone", "24n"}).out,
+              AllOf(HasSubstr("2010 (found"), HasSubstr("  24N\n"), HasSubstr("  none (Sem)\n")));
+  EXPECT_EQ(import({"basin.db", "--quiet"}).out, "");
+}
+
+TEST_F(ImportCommandTest, RefusedAndInvalidProjectsHaveCodesAndShortObjectsOfTheirOwn) {
+  writeFile("old.geojson", "old");
+  project("update Tk_Gerais set TipoSimul = 1");
+  const Ending refused = import({"basin.db", "--json", "-", "--geojson", "old.geojson", "--csv", "tables"});
+  EXPECT_EQ(refused.exitCode, 3);
+  EXPECT_EQ(refused.out, "{\"format\":\"lagomare-scenario\",\"version\":1,\"dialect\":\"2013\",\"status\":1,"
+                         "\"message\":\"Não é possível importar projeto de planejamento tático\"}\n");
+  EXPECT_EQ(readFile("old.geojson"), "old");
+  EXPECT_FALSE(fs::exists("tables"));
+  runSql("basin.db", "delete from Tk_Gerais"); // an empty table is held
+  EXPECT_EQ(import({"basin.db", "--json", "short.json"}).exitCode, 4);
+  EXPECT_EQ(nlohmann::json::parse(readFile("short.json"))["message"], "Projeto inválido");
+}
+
+TEST_F(ImportCommandTest, SaysWhatIsOffInTheCall) {
+  project();
+  const std::vector<std::vector<std::string>> calls{{},
+                                                    {"basin.db", "more"},
+                                                    {"basin.db", "--json"},
+                                                    {"basin.db", "--json", ""},
+                                                    {"basin.db", "--json", "a", "--json", "b"},
+                                                    {"basin.db", "--quiet", "--quiet"},
+                                                    {"basin.db", "--utm-zone", "61S"},
+                                                    {"basin.db", "--utm-zone", "23"},
+                                                    {"basin.db", "--dialect", "2011"},
+                                                    {"basin.db", "--json", "-", "--geojson", "-"},
+                                                    {"basin.db", "--json", "a", "--geojson", "./a"},
+                                                    {"basin.db", "--json", "d/links.csv", "--csv", "d"},
+                                                    {"basin.db", "--geojson", "basin.db"}};
+  for (const auto& words : calls) {
+    const Ending ending = import(words);
+    EXPECT_EQ(ending.exitCode, 2) << testing::PrintToString(words);
+    EXPECT_THAT(ending.err, AllOf(StartsWith("lagomare: error: "), HasSubstr("--help"), EndsWith("\n")));
+    EXPECT_EQ(ending.out, "");
+  }
+  EXPECT_EQ(run({LAGOMARE}).exitCode, 2);
+}
+
+TEST_F(ImportCommandTest, HelpShowsAnExample) {
+  EXPECT_THAT(import({"--help"}).out, HasSubstr("lagomare import basin.mdb --json"));
+  EXPECT_THAT(run({LAGOMARE, "--version"}).out, StartsWith("lagomare "));
+}
+
+TEST_F(ImportCommandTest, PathsAreNeverInterpreted) {
+  for (const std::string name :
+       {"-dash $HOME `id` it's \"quoted\".db", "new\nline;two  blanks&c|d", "São %PATH%.mdb", "\xFF{}[a,b]"}) {
+    const std::string json = "to " + name;
+    const Ending ending = import({"--quiet", "--json", json, "--", project("", name)});
+    EXPECT_EQ(ending.exitCode, 0) << name << ending.err;
+    EXPECT_THAT(readFile(json), HasSubstr("Açude Velho")) << name;
+    EXPECT_FALSE(fs::exists(name + "-journal") || fs::exists(name + "-wal"));
+  }
+}
+
+TEST_F(ImportCommandTest, AClosedOrFullStandardOutputIsAnError) {
+  project();
+  for (const std::string redirection : {">&-", ">/dev/full"})
+    for (const std::string json : {"", "--json -"})
+      EXPECT_EQ(
+          run({"/bin/sh", "-c", "exec '" LAGOMARE "' import basin.db --csv tables " + json + redirection}).exitCode, 1);
+  EXPECT_FALSE(fs::exists("tables"));
+  EXPECT_EQ(run({"/bin/sh", "-c", "exec '" LAGOMARE "' import basin.db --quiet >&-"}).exitCode, 0);
+}

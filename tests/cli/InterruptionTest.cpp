@@ -1,0 +1,89 @@
+#include "CommandTest.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+class InterruptionTest : public CommandTest {
+protected:
+  InterruptionTest() {
+    project();
+    writeFile("out.json", "old");
+  }
+
+  static std::vector<std::string> words(const std::string& script) {
+    return importing({"basin.db", "--json", "out.json", "--csv", "tables", "--query-executable", executable(script)});
+  }
+
+  static void expectCancelled(RunningProgram& program) {
+    const Ending ending = program.wait();
+    EXPECT_EQ(ending.exitCode, 130);
+    EXPECT_EQ(ending.out, "");
+    EXPECT_EQ(readFile("out.json"), "old");
+    EXPECT_FALSE(fs::exists("tables"));
+  }
+
+  /// The script that waits at a query until the test lets it go on.
+  static std::string stopAt(const std::string& sql, const std::string& then) {
+    return "here=${0%/*}; case \"$2\" in " + sql +
+           ") > \"$here/reached\"\n"
+           "while ! [ -e \"$here/go\" ]; do sleep 0.05; done; " +
+           then + ";; esac; answer \"$@\"";
+  }
+};
+
+TEST_F(InterruptionTest, TheFirstSignalStopsTheImportAlsoWhileAQueryRuns) {
+  const std::string steps = "*LgmResCAV";
+  const std::string beforeAnyStep = "'select NumPonto from Tk_Dem_FEA'";
+  const std::string whileAsked = "*count*DefGerais";
+  for (const std::string& query : {steps, beforeAnyStep, whileAsked})
+    for (const int signal : {SIGINT, SIGTERM}) {
+      RunningProgram program(words(stopAt(query, ":")));
+      ASSERT_TRUE(awaitFile("reached"));
+      program.send(signal);
+      writeFile("go", "");
+      expectCancelled(program);
+      fs::remove("reached");
+      fs::remove("go");
+    }
+}
+
+TEST_F(InterruptionTest, AnImportThatFailsAfterTheSignalWasCancelled) {
+  RunningProgram program(words(stopAt("*LgmResCAV", "exit 1")));
+  ASSERT_TRUE(awaitFile("reached"));
+  program.send(SIGINT);
+  writeFile("go", "");
+  expectCancelled(program);
+}
+
+TEST_F(InterruptionTest, TheSecondSignalEndsTheQueryAndAllThatItStarted) {
+  ASSERT_EQ(::mkfifo("alive", 0600), 0);
+  const int alive = ::open("alive", O_RDONLY | O_NONBLOCK);
+  // The pipe stays open as long as the script or its child lives.
+  RunningProgram program(words("case \"$2\" in *LgmResCAV) exec 3> \"${0%/*}/alive\"; > \"${0%/*}/reached\"\n"
+                               "sleep 1000;; esac; answer \"$@\""));
+  ASSERT_TRUE(awaitFile("reached"));
+  program.send(SIGINT);
+  program.send(SIGTERM);
+  expectCancelled(program);
+  pollfd closed{alive, POLLIN, 0};
+  EXPECT_EQ(::poll(&closed, 1, 60000), 1);
+  EXPECT_TRUE(closed.revents & POLLHUP);
+  ::close(alive);
+}
+
+TEST_F(InterruptionTest, AfterTheImportTheFirstSignalEndsTheProgram) {
+  ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+  const int reader = ::open("pipe", O_RDONLY | O_NONBLOCK);
+  runSql("basin.db", "update Tk_Gerais set Duracao = 2000"); // more than the pipe takes
+  RunningProgram program(importing({"basin.db", "--json", "pipe", "--geojson", "out.json"}));
+  pollfd readable{reader, POLLIN, 0};
+  EXPECT_EQ(::poll(&readable, 1, 60000), 1);
+  program.send(SIGINT);
+  expectCancelled(program);
+  ::close(reader);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+/// How a program ended, and what it wrote.
+struct Ending {
+  int exitCode; ///< -1 where a signal ended it
+  std::string out;
+  std::string err;
+};
+
+/// A program that runs; its output goes to files in the current directory. Ended with this, if it still runs.
+class RunningProgram {
+public:
+  explicit RunningProgram(const std::vector<std::string>& words);
+  ~RunningProgram();
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+
+  void send(int signal) const;
+  [[nodiscard]] Ending wait();
+
+private:
+  pid_t process_;
+};
+
+[[nodiscard]] Ending run(const std::vector<std::string>& words);
+
+[[nodiscard]] std::string readFile(const std::string& name);
+void writeFile(const std::string& name, const std::string& text);
+/// Waits until a file exists; false where it does not appear.
+[[nodiscard]] bool awaitFile(const std::string& name);
+/// Makes or extends a SQLite database.
+void runSql(const std::string& database, const std::string& sql);
