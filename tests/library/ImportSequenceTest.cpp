@@ -7,7 +7,7 @@ using namespace testing;
 namespace {
 
 // Every query of an import, in order, as SQL|flag; "states " marks those that only a project with hydrological states
-// is asked, " --" the end of each step, where progress is reported.
+// is asked, N the states in turn, " --" the end of each step, where progress is reported.
 
 const char* const sequence2010 = R"(select * from DefGerais|0
 states select * from FrontEH|0
@@ -24,17 +24,13 @@ select Res, Evap from ResEvap|0 --
 select Res, Oprr from ResVmetaEH where EstHidr = 1|1 --
 select Res, Oprp from ResPriorEH where EstHidr = 1|0 --
 states select Res, Oprp from ResPriorEH|0 --
-states select Res, Oprr from ResVmetaEH where EstHidr = 1|0
-states select Res, Oprr from ResVmetaEH where EstHidr = 2|0
-states select Res, Oprr from ResVmetaEH where EstHidr = 3|0 --
+states select Res, Oprr from ResVmetaEH where EstHidr = N|0 --
 select Dem, Demd from DemEH where EstHidr = 1|1 --
 select * from Pontos where Tipo = 3|0
 select Pto, U from Vazao|1 --
 select Dem, Demr from DemPriorEH where EstHidr = 1|0 --
 states select Dem, Demr from DemPriorEH|0 --
-states select Dem, Demd from DemEH where EstHidr = 1|0
-states select Dem, Demd from DemEH where EstHidr = 2|0
-states select Dem, Demd from DemEH where EstHidr = 3|0 --
+states select Dem, Demd from DemEH where EstHidr = N|0 --
 select * from Pontos where Tipo = 1|0
 select Pto, U from Vazao|1 --
 select Lnk, Cmax from LinksCmaxEH where EstHidr = 1|0 --
@@ -56,17 +52,13 @@ select NumPto, Valor from LgmResEvap|0 --
 select NumPto, Valor from LgmResVmetaSC where EstHidr = 1|1 --
 select NumPto, Valor from LgmResPrior where EstHidr = 1|0 --
 states select NumPto, Valor from LgmResPrior|0 --
-states select NumPto, Valor from LgmResVmetaSC where EstHidr = 1|0
-states select NumPto, Valor from LgmResVmetaSC where EstHidr = 2|0
-states select NumPto, Valor from LgmResVmetaSC where EstHidr = 3|0 --
+states select NumPto, Valor from LgmResVmetaSC where EstHidr = N|0 --
 select NumPto, Valor from LgmDemDemSC where EstHidr = 1|1 --
 select NumPonto, Nome, Coord_X, Coord_Y from Tk_Dem_FEA|0
 select NumPto, Valor from LgmVazNat |1 --
 select NumPto, Valor from LgmDemPrior where EstHidr = 1|0 --
 states select NumPto, Valor from LgmDemPrior|0 --
-states select NumPto, Valor from LgmDemDemSC where EstHidr = 1|0
-states select NumPto, Valor from LgmDemDemSC where EstHidr = 2|0
-states select NumPto, Valor from LgmDemDemSC where EstHidr = 3|0 --
+states select NumPto, Valor from LgmDemDemSC where EstHidr = N|0 --
 select NumPonto, Nome, Coord_X, Coord_Y from Tk_Pas_FEA|0
 select NumPto, Valor from LgmVazNat |1 --
 select NumLnk, Valor from LgmLnkCmaxSC where EstHidr = 1|0 --
@@ -90,9 +82,14 @@ std::vector<std::string> queriesOf(const Dialect& dialect, bool withStates, int 
   std::istringstream lines(&dialect == &dialect2010 ? sequence2010 : sequence2013);
   for (std::string line; lastStep > 0 && std::getline(lines, line);) {
     const std::string query = line.substr(0, line.find(" --"));
-    const bool forStates = query.rfind("states ", 0) == 0;
-    if (withStates || !forStates)
-      queries.push_back(query.substr(forStates ? 7 : 0));
+    const auto state = query.find("= N|");
+    if (query.rfind("states ", 0) != 0)
+      queries.push_back(query);
+    else if (withStates && state == std::string::npos)
+      queries.push_back(query.substr(7));
+    else if (withStates)
+      for (const char* number : {"= 1|0", "= 2|0", "= 3|0"})
+        queries.push_back(query.substr(7, state - 7) + number);
     lastStep -= query == line ? 0 : 1;
   }
   return queries;

@@ -61,11 +61,3 @@ TEST_F(LagomareProjectManagerTest, RunsTheExecutableWithThreeArguments) {
   LagomareProjectManager::getInstance()->setApiExecutable("sh tool");
   EXPECT_EQ(ask(), (QueryResult{{1, {{"1", "6"}, {"1", "8"}, {"1", "1"}}}}));
 }
-
-TEST_F(LagomareProjectManagerTest, ThrowsWhatALineWithoutAnIdThrows) {
-  write("query-result.txt", "1 .\nerror: no such table .\n");
-  EXPECT_THAT(ask, ThrowsMessage<std::invalid_argument>("stoul"));
-  EXPECT_THAT([] { static_cast<void>(LagomareProjectManager::getInstance()->queryValues("select 1", true)); },
-              ThrowsMessage<std::invalid_argument>("stoul"));
-  EXPECT_THAT(read("query-result.txt"), StartsWith("1 ."));
-}

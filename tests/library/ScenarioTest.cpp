@@ -1,0 +1,69 @@
+#include "Network.h"
+#include "model/CoreServiceManager.h"
+#include "model/ElementsFilter.h"
+#include "model/Link.h"
+#include "model/Node.h"
+#include "model/SceneryCheck.h"
+
+#include <gmock/gmock.h>
+
+using namespace testing;
+
+namespace {
+
+/// Nodes 1 and 2, joined by the links 1 and 2 in both directions.
+class ScenarioTest : public Test {
+protected:
+  Network network;
+  std::shared_ptr<Scenario> scenario = network.scenario;
+  std::shared_ptr<Node> node1 = network.node(ElementType::Reservoir, 1);
+  std::shared_ptr<Node> node2 = network.node(ElementType::Reservoir, 2);
+  std::shared_ptr<Link> link1 = network.link(1, 1, 2);
+  std::shared_ptr<Link> link2 = network.link(2, 2, 1);
+};
+
+} // namespace
+
+TEST_F(ScenarioTest, HoldsNodesAndLinksUnderIdsOfTheirOwn) {
+  EXPECT_THAT(scenario->getElements(), ElementsAre(node1, node2, link1, link2));
+  EXPECT_EQ(scenario->getElement(1), node1) << "the node before the link";
+  EXPECT_EQ(scenario->getElement(3), nullptr);
+  EXPECT_THAT([this] { network.node(ElementType::Junction, 2); },
+              ThrowsMessage<std::invalid_argument>(HasSubstr("a node with the id 2")));
+  EXPECT_THAT([this] { network.link(1, 1, 2); },
+              ThrowsMessage<std::invalid_argument>(HasSubstr("a link with the id 1")));
+  EXPECT_THAT([this] { static_cast<void>(node1->getVectorOfSeries(1)); },
+              ThrowsMessage<std::out_of_range>("Invalid window index"));
+  EXPECT_THAT(ElementsFilter::filterByType(scenario->getElements(), linkTypes), ElementsAre(link1, link2));
+  EXPECT_EQ(network.scenario->getSceneryCheck()->getScenario(), scenario);
+}
+
+TEST_F(ScenarioTest, LosesALinkWithItsPlacesAtItsNodes) {
+  CoreServiceManager::deleteElementNoDatabase(scenario, link1);
+  CoreServiceManager::deleteElementNoDatabase(scenario, link1);
+  EXPECT_THAT(scenario->getElements(), ElementsAre(node1, node2, link2));
+  EXPECT_THAT(node1->getDownstreamLinks(), IsEmpty());
+  EXPECT_THAT(node2->getUpstreamLinks(), IsEmpty());
+  EXPECT_THAT(node1->getUpstreamLinks(), ElementsAre(link2));
+  EXPECT_NE(scenario->getSettingsManager().getSettings(1), nullptr) << "settings are those of the node 1";
+}
+
+TEST_F(ScenarioTest, LosesANodeWithItsLinksAndSettings) {
+  CoreServiceManager::deleteElementNoDatabase(scenario, node1);
+  EXPECT_THAT(scenario->getElements(), ElementsAre(node2));
+  EXPECT_THAT(node2->getUpstreamLinks(), IsEmpty());
+  EXPECT_EQ(scenario->getSettingsManager().getSettings(1), nullptr);
+}
+
+TEST_F(ScenarioTest, PutsALinkOfAnotherKindIntoTheSamePlace) {
+  link1->setName("Canal");
+  const auto changed = CoreServiceManager::changeLinkTypeNoDatabase(link1, ElementType::ArtificialLink, scenario);
+  EXPECT_THAT(scenario->getElements(), ElementsAre(node1, node2, changed, link2));
+  EXPECT_EQ(changed->getElementType()->id, 10);
+  EXPECT_EQ(changed->getName(), "Canal");
+  EXPECT_EQ(changed->getSeriesInput(), link1->getSeriesInput());
+  EXPECT_THAT(node1->getDownstreamLinks(), ElementsAre(changed));
+  EXPECT_THAT(node2->getUpstreamLinks(), ElementsAre(changed));
+  for (const auto type : {ElementType::ArtificialLink, ElementType::Reservoir})
+    EXPECT_THROW(CoreServiceManager::changeLinkTypeNoDatabase(link1, type, scenario), std::invalid_argument);
+}
