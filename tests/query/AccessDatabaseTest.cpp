@@ -36,7 +36,7 @@ TEST_F(AccessDatabaseTest, EveryTableOfTheExamplesEqualsItsText) {
     makeTwin(text);
     const auto tables = split(answer("twin.db", "SELECT name FROM sqlite_master WHERE type = 'table'"), '\n');
     EXPECT_GE(tables.size(), 14u);
-    for (std::string table : tables) {
+    for (const std::string& table : tables) {
       const std::string sql = "SELECT * FROM " + table.substr(0, table.find(' '));
       EXPECT_EQ(answer(sample(access), sql), answer("twin.db", sql)) << sql;
     }

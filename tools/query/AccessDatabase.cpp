@@ -4,14 +4,14 @@
 
 namespace LagomareQuery {
 
-Database openAccessDatabase(const std::filesystem::path& path) {
-  const FileStamp stamp = FileStamp::of(path);
-  const auto file = std::make_shared<AccessFile>(path);
+Database openAccessDatabase(const std::filesystem::path& file) {
+  const FileStamp stamp = FileStamp::of(file);
+  const auto pages = std::make_shared<AccessFile>(file);
   Connection connection = openConnection(":memory:", SQLITE_OPEN_READWRITE);
   prepareForQueries(connection.get());
-  for (const AccessObject& object : readCatalog(*file))
-    registerAccessTable(connection.get(), *file, object);
-  return {file, std::move(connection), path, stamp};
+  for (const AccessObject& object : readCatalog(*pages))
+    registerAccessTable(connection.get(), *pages, object);
+  return {pages, std::move(connection), file, stamp};
 }
 
 } // namespace LagomareQuery

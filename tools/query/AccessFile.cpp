@@ -44,8 +44,12 @@ int versionOf(const std::filesystem::path& file) {
 } // namespace
 
 struct AccessFile::Handle {
-  MdbHandle* mdb;
+  explicit Handle(MdbHandle* opened) : mdb(opened) {}
   ~Handle() { mdb_close(mdb); }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+
+  MdbHandle* mdb;
 };
 
 AccessFile::AccessFile(const std::filesystem::path& file)
@@ -59,7 +63,7 @@ AccessFile::AccessFile(const std::filesystem::path& file)
   MdbHandle* mdb = mdb_open(file.string().c_str(), MDB_NOFLAGS);
   if (!mdb)
     throwDamaged("its first page");
-  m_handle.reset(new Handle{mdb});
+  m_handle = std::make_unique<Handle>(mdb);
   if (mdb->f->jet_version > MDB_VER_JET4 && mdb->f->db_key != 0)
     throw QueryError("the Access database is encrypted; remove its password first");
 }

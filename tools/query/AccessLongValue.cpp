@@ -42,7 +42,7 @@ std::vector<std::uint8_t> readLongValue(const AccessFile& file, AccessBytes cell
   const std::uint32_t pointer = cell.u32(4);
   std::vector<std::uint8_t> bytes;
   if ((lengthAndFlags & inCellFlag) != 0) {
-    append(bytes, cell.part(headerSize, length));
+    append(bytes, cell.from(headerSize).part(0, length));
   } else if ((lengthAndFlags & inOneRowFlag) != 0) {
     AccessPage page;
     append(bytes, readLongValueRow(file, AccessRowId::stored(pointer), page).part(0, length));

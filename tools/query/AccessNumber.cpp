@@ -28,8 +28,9 @@ std::string decimalDigits(std::array<std::uint32_t, 4> groups) {
       group = static_cast<std::uint32_t>(dividend / base);
       remainder = dividend % base;
     }
-    const std::string text = std::to_string(remainder);
-    digits = std::string(9 - text.size(), '0') + text + digits;
+    std::string text = std::to_string(remainder);
+    text.insert(0, 9 - text.size(), '0');
+    digits.insert(0, text);
   }
   return digits;
 }

@@ -67,7 +67,8 @@ std::vector<AccessColumn> readColumns(const AccessFile& file, AccessBytes defini
 std::size_t liveRows(const AccessPage& page, const AccessFormat& format) {
   std::size_t live = 0;
   for (std::size_t slot = 0, count = rowCount(page, format); slot < count; ++slot)
-    live += slotOf(page, format, slot) == AccessSlot::deleted ? 0u : 1u;
+    if (slotOf(page, format, slot) != AccessSlot::deleted)
+      ++live;
   return live;
 }
 

@@ -27,7 +27,7 @@ public:
     return m_buffer.data() + m_used;
   }
   void taken(const char* end) { m_used = static_cast<std::size_t>(end - m_buffer.data()); }
-  static constexpr std::size_t largestRoom = 128 * 1024;
+  static constexpr std::size_t largestRoom = std::size_t{128} * 1024;
 
   /// All rows are written: the answer becomes readable, in one step.
   void commit();

@@ -27,10 +27,10 @@ int number(std::string_view digits) {
 /// Hours and minutes, then seconds and their fraction where they are given.
 bool isTime(std::string_view text) {
   const std::string_view fraction = text.substr(std::min<std::size_t>(text.size(), 8));
-  const bool shaped =
-      hasShape(text, "00:00") || (hasShape(text.substr(0, 8), "00:00:00") &&
-                                  (fraction.empty() || (fraction.size() > 1 && fraction.front() == '.' &&
-                                                        fraction.find_first_not_of("0123456789", 1) == fraction.npos)));
+  const bool shaped = hasShape(text, "00:00") ||
+                      (hasShape(text.substr(0, 8), "00:00:00") &&
+                       (fraction.empty() || (fraction.size() > 1 && fraction.front() == '.' &&
+                                             fraction.find_first_not_of("0123456789", 1) == std::string_view::npos)));
   return shaped && number(text.substr(0, 2)) < 24 && number(text.substr(3, 2)) < 60 &&
          (text.size() < 8 || number(text.substr(6, 2)) < 60);
 }

@@ -33,7 +33,7 @@ bool mustBecomeNoBreakSpace(std::string_view character) {
 }
 
 std::string_view bytesOf(sqlite3_value* value, const void* data) {
-  return {static_cast<const char*>(data), data ? static_cast<std::size_t>(sqlite3_value_bytes(value)) : 0};
+  return {static_cast<const char*>(data), data == nullptr ? 0 : static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
 
 /// Whether the value has no more than four decimals and fifteen digits, and then 10,000 times the value. There is no
@@ -122,7 +122,7 @@ void FieldWriter::writeText(std::string_view text) {
 }
 
 void FieldWriter::writeHexadecimal(std::string_view bytes) {
-  static constexpr char digits[] = "0123456789ABCDEF";
+  static constexpr std::string_view digits = "0123456789ABCDEF";
   while (!bytes.empty()) {
     const std::string_view chunk = bytes.substr(0, chunkBytes);
     char* to = m_answer.room(2 * chunk.size());

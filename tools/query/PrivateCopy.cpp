@@ -23,7 +23,7 @@ fs::path makePrivateDirectory() {
   std::error_code error;
   std::random_device random;
   for (int attempt = 0; attempt < 100 && !error; ++attempt) {
-    const fs::path directory = fs::temp_directory_path(error) / ("lagomare-query-" + std::to_string(random()));
+    fs::path directory = fs::temp_directory_path(error) / ("lagomare-query-" + std::to_string(random()));
     if (!error && fs::create_directory(directory, error)) {
       fs::permissions(directory, fs::perms::owner_all, error);
       return directory;

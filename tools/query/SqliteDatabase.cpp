@@ -12,13 +12,13 @@ namespace fs = std::filesystem;
 
 /// The file as a URI, every byte that could mean something in one escaped.
 std::string uriOf(const fs::path& file, const char* parameters) {
-  static constexpr char digits[] = "0123456789ABCDEF";
+  static constexpr std::string_view digits = "0123456789ABCDEF";
   static constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789/._-~:";
   const std::string path = file.generic_u8string();
   std::string uri = path.front() == '/' ? "file:" : "file:/";
   for (const char character : path) {
     const auto byte = static_cast<unsigned char>(character);
-    if (plain.find(character) != plain.npos)
+    if (plain.find(character) != std::string_view::npos)
       uri += character;
     else
       uri.append({'%', digits[byte >> 4], digits[byte & 0x0F]});

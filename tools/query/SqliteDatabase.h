@@ -6,6 +6,6 @@ namespace LagomareQuery {
 
 /// Opens a SQLite file read-only and leaves nothing beside it, in write-ahead mode neither. Changes that still stand in
 /// a -wal file or a hot journal are read from a private copy. Throws QueryError.
-[[nodiscard]] Database openSqliteDatabase(const std::filesystem::path& file);
+[[nodiscard]] Database openSqliteDatabase(const std::filesystem::path& given);
 
 } // namespace LagomareQuery

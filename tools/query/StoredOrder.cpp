@@ -15,7 +15,7 @@ constexpr std::array<const char*, 3> rowidNames = {"rowid", "_rowid_", "oid"};
 
 enum class Rowid { hidden, asColumn };
 
-bool contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+bool contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
 bool sameName(const char* left, const std::string& right) { return sqlite3_stricmp(left, right.c_str()) == 0; }
 

@@ -33,12 +33,12 @@ std::size_t utf8CharacterLength(std::string_view text) {
   const std::size_t length = announcedLength(lead, smallestCode);
   if (length == 0 || text.size() < length)
     return 0;
-  std::uint32_t code = lead & (0x7Fu >> length);
+  std::uint32_t code = lead & (0x7FU >> length);
   for (const char byte : text.substr(1, length - 1)) {
     const auto continuation = static_cast<unsigned char>(byte);
     if ((continuation & 0xC0) != 0x80)
       return 0;
-    code = code << 6 | (continuation & 0x3Fu);
+    code = code << 6 | (continuation & 0x3FU);
   }
   return code >= smallestCode && isCharacter(code) ? length : 0;
 }
