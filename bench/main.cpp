@@ -59,6 +59,7 @@ int run(std::vector<char*> words) {
   addSeriesBenches(works);
   addQueryBenches(works, setting);
   addImportBenches(works, setting);
+  addGrowthBenches(growths, setting);
   const bool succeeded = runRounds(rounds);
   works.print(std::cout);
   growths.print(std::cout);
