@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
+namespace Lagomare {
+
 namespace {
 
 constexpr std::size_t chunk = std::size_t{1} << 16U;
@@ -55,3 +57,5 @@ QueryResult parseRows(std::string_view text) {
   });
   return rows;
 }
+
+} // namespace Lagomare

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace Lagomare {
+
 // The answer file of a query executable: one line per row, fields parted by single blanks, the last field of
 // each line no data. Lines end with a line feed, the last one may lack it; an empty line, or one that holds a
 // carriage return alone, is skipped.
@@ -31,3 +33,5 @@ void forEachLine(std::string_view text, Visit visit) {
 
 /// The id of a line. Throws as parseRows does.
 [[nodiscard]] LAGOMARE_EXPORT std::uint32_t keyOf(std::string_view line);
+
+} // namespace Lagomare

@@ -21,7 +21,7 @@ public:
   /// The index of the field in its row, from 0, where known.
   [[nodiscard]] const std::optional<std::size_t>& column() const { return column_; }
 
-  void setPlace(std::uint32_t rowId, std::size_t column);
+  void setPlace(std::optional<std::uint32_t> rowId, std::size_t column);
 
 protected:
   explicit FieldError(std::optional<std::string> text);
@@ -49,5 +49,5 @@ public:
 /// The row is too short: what() names the row's id and the column.
 class LAGOMARE_EXPORT MissingField : public std::out_of_range, public FieldError {
 public:
-  MissingField(std::uint32_t rowId, std::size_t column);
+  MissingField(std::optional<std::uint32_t> rowId, std::size_t column);
 };

@@ -3,10 +3,21 @@
 #include "access/FieldError.h"
 #include "access/Numbers.h"
 
+#include <optional>
+#include <string_view>
+
+namespace Lagomare {
+
 namespace {
 
-/// Rows come from an answer whose keys were read, so column 0 converts.
-std::uint32_t idOf(const Row& row) { return row.empty() ? 0U : toUnsigned(row.front()); }
+/// Nothing where column 0 is no id, as in rows that no answer held.
+std::optional<std::uint32_t> idOf(const Row& row) {
+  try {
+    return toUnsigned(row.empty() ? std::string_view() : std::string_view(row.front()));
+  } catch (const FieldError&) {
+    return std::nullopt;
+  }
+}
 
 template <typename Conversion>
 auto convertAt(const Row& row, std::size_t column, Conversion convert) {
@@ -36,3 +47,5 @@ std::int32_t truncatedIntAt(const Row& row, std::size_t column) { return convert
 std::uint32_t truncatedUnsignedAt(const Row& row, std::size_t column) {
   return convertAt(row, column, toTruncatedUnsigned);
 }
+
+} // namespace Lagomare

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+namespace Lagomare {
+
 // The fields of a row, by column from 0. A column that the row lacks is MissingField; a field that cannot be
 // converted throws as Numbers.h says, with the row's id and the column set.
 
@@ -15,3 +17,5 @@
 [[nodiscard]] LAGOMARE_EXPORT double numberAt(const Row& row, std::size_t column);
 [[nodiscard]] LAGOMARE_EXPORT std::int32_t truncatedIntAt(const Row& row, std::size_t column);
 [[nodiscard]] LAGOMARE_EXPORT std::uint32_t truncatedUnsignedAt(const Row& row, std::size_t column);
+
+} // namespace Lagomare

@@ -6,7 +6,7 @@
 #define NOMINMAX
 #include <windows.h>
 
-void runScript(const std::string& scriptFile) {
+void Lagomare::runScript(const std::string& scriptFile) {
   AllocConsole(); // fails harmlessly where there is one
   ShowWindow(FindWindowA("ConsoleWindowClass", nullptr), SW_HIDE);
   static_cast<void>(std::system(scriptFile.c_str()));
@@ -14,7 +14,7 @@ void runScript(const std::string& scriptFile) {
 
 #else
 
-void runScript(const std::string& scriptFile) {
+void Lagomare::runScript(const std::string& scriptFile) {
   // Read by the shell that system() starts: naming another shell would start a second process.
   [[maybe_unused]] const int exitCode = std::system((". ./" + scriptFile).c_str());
 }

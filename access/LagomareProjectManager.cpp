@@ -44,7 +44,9 @@ void LagomareProjectManager::buildScript(const std::string& sql, bool flag) cons
   script << apiExecutable << " \"" << databaseFilename << "\" \"" << sql << "\" " << (flag ? '1' : '0') << '\n';
 }
 
-QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) const { return parseRows(ask(sql, flag)); }
+QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) const {
+  return Lagomare::parseRows(ask(sql, flag));
+}
 
 ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool flag) const {
   return ValueResult(ask(sql, flag));
@@ -52,6 +54,6 @@ ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool fla
 
 std::string LagomareProjectManager::ask(const std::string& sql, bool flag) const {
   buildScript(sql, flag);
-  runScript(scriptFile);
-  return readAnswer(fileResultQuery);
+  Lagomare::runScript(scriptFile);
+  return Lagomare::readAnswer(fileResultQuery);
 }

@@ -7,6 +7,8 @@
 #include <limits>
 #include <system_error>
 
+namespace Lagomare {
+
 namespace {
 
 constexpr const char* unsignedConversion = "stoul";
@@ -88,3 +90,5 @@ double toDouble(std::string_view text) {
 std::int32_t toTruncatedInt(std::string_view text) { return truncate<std::int32_t>(text); }
 
 std::uint32_t toTruncatedUnsigned(std::string_view text) { return truncate<std::uint32_t>(text); }
+
+} // namespace Lagomare

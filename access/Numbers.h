@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace Lagomare {
+
 // The one place where text becomes a number. Accepted is what the standard conversions accept in the "C"
 // locale, whatever locale the process has set: leading white space, a sign, and whatever follows the number.
 // The errors are theirs too: InvalidField where there is no number, FieldOutOfRange where it does not fit.
@@ -20,3 +22,5 @@
 /// toDouble, truncated toward zero; FieldOutOfRange "stod" where the result does not fit.
 [[nodiscard]] LAGOMARE_EXPORT std::int32_t toTruncatedInt(std::string_view text);
 [[nodiscard]] LAGOMARE_EXPORT std::uint32_t toTruncatedUnsigned(std::string_view text);
+
+} // namespace Lagomare

@@ -24,7 +24,7 @@ double ValueColumn::numberAt(std::size_t row) const {
   if (text.data() == nullptr)
     throw MissingField(id_, valueIndex);
   try {
-    return toDouble(text);
+    return Lagomare::toDouble(text);
   } catch (FieldError& error) {
     error.setPlace(id_, valueIndex);
     throw;
@@ -32,8 +32,8 @@ double ValueColumn::numberAt(std::size_t row) const {
 }
 
 ValueResult::ValueResult(std::string text) : text_(std::move(text)) {
-  forEachLine(text_, [this](std::string_view line) {
-    const std::uint32_t id = keyOf(line);
+  Lagomare::forEachLine(text_, [this](std::string_view line) {
+    const std::uint32_t id = Lagomare::keyOf(line);
     const auto begin = static_cast<std::size_t>(line.data() - text_.data());
     if (runs_.empty() || runs_.back().id != id)
       runs_.push_back({id, begin, begin});
@@ -45,6 +45,6 @@ ValueResult::ValueResult(std::string text) : text_(std::move(text)) {
 }
 
 void ValueResult::appendValues(const Run& run, ValueColumn& values) const {
-  forEachLine(std::string_view(text_).substr(run.begin, run.end - run.begin),
-              [&values](std::string_view line) { values.texts_.push_back(valueOf(line)); });
+  Lagomare::forEachLine(std::string_view(text_).substr(run.begin, run.end - run.begin),
+                        [&values](std::string_view line) { values.texts_.push_back(valueOf(line)); });
 }

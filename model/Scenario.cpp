@@ -10,6 +10,8 @@ namespace {
 template <typename T>
 void add(OrderedIndex<unsigned, std::shared_ptr<T>>& index, const std::shared_ptr<T>& element, unsigned window,
          unsigned id, const char* operation, const char* kind) {
+  if (!element)
+    throw std::invalid_argument(std::string(operation) + ": no " + kind + " given");
   if (window != 0)
     throw std::out_of_range("Invalid window index");
   if (!index.add(id, element))
@@ -47,7 +49,7 @@ std::vector<std::shared_ptr<Element>> Scenario::getElements() const {
 }
 
 void Scenario::addLink(const std::shared_ptr<Link>& link, unsigned window) {
-  add(links_, link, window, link->bdId, "Scenario::addLink", "link");
+  add(links_, link, window, link ? link->bdId : 0, "Scenario::addLink", "link");
 }
 
 void Scenario::addNode(const std::shared_ptr<Node>& node, unsigned window, unsigned id) {

@@ -2,29 +2,35 @@
 
 #include "elements/2010/SerieProjectManager.h"
 #include "elements/common/Demands.h"
+#include "elements/common/Elements.h"
 #include "elements/common/Priorities.h"
+#include "elements/common/StateSeries.h"
 #include "elements/common/Steps.h"
 #include "model/PriorityDemandSettings.h"
 
 namespace Lagomare2010 {
 
+using namespace Lagomare;
+
 const std::string DemandProjectManager::demandDemandTable = "DemEH";
 const std::string DemandProjectManager::demandPriorityTable = "DemPriorEH";
 
 void DemandProjectManager::makeLambdas() {
-  // Drains take their places before any settings are looked up.
+  // Drains take the places of demands before these enter the scenario, and before settings are looked up.
   steps = {loadDemandSerie, NodeProjectManager::loadGeneralInfo, loadPriority, loadPriorityHydrologicalState,
            loadWaterDemandHydrologicalState};
 }
 
-void DemandProjectManager::validElement() {
-  requireKind(elements, ElementType::HumanDemand, "DemandProjectManager::validElement(): invalid element type");
-}
+void DemandProjectManager::validElement() { requireKind(elements, ElementType::HumanDemand, "DemandProjectManager"); }
 
 unsigned DemandProjectManager::getElementType() { return 3; }
 
+bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
+  return isDrain(*demand, scenario->getInterval());
+}
+
 void DemandProjectManager::loadDemandSerie(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   SerieProjectManager::load(SerieType::WaterDemand, loader.scenario->getInterval(), demandDemandTable, loader.elements,
                             "Dem", "Demd", whereEH1);
   replaceDrains(loader, loader.elements);
@@ -32,14 +38,14 @@ void DemandProjectManager::loadDemandSerie(ElementProjectManager* base, TeluCore
 }
 
 void DemandProjectManager::loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   const auto rows = ask("select Dem, Demr from " + demandPriorityTable + " " + whereEH1, false);
   loadPriorities<PriorityDemandSettings>(rows, loader.elements, *loader.scenario);
   finishStep(bar);
 }
 
 void DemandProjectManager::loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   if (hasDefaultStates(*loader.scenario))
     loadStatePriorities<PriorityDemandSettings>(ask("select Dem, Demr from " + demandPriorityTable, false),
                                                 *loader.scenario);
@@ -47,17 +53,11 @@ void DemandProjectManager::loadPriorityHydrologicalState(ElementProjectManager* 
 }
 
 void DemandProjectManager::loadWaterDemandHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
-  for (unsigned state = 1; state <= hydrologicalStatesOf(*loader.scenario).getNumOfStates(); ++state) {
-    const auto values =
-        askValues("select Dem, Demd from " + demandDemandTable + " where EstHidr = " + std::to_string(state), false);
-    loadStateSeries<PriorityDemandSettings>(values, *loader.scenario, state, Layout::MonthlyProfile);
-  }
+  auto& loader = as<DemandProjectManager>(base);
+  loadEachState<PriorityDemandSettings>(*loader.scenario, Layout::MonthlyProfile, [](const std::string& state) {
+    return askValues("select Dem, Demd from " + demandDemandTable + " where EstHidr = " + state, false);
+  });
   finishStep(bar);
-}
-
-bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
-  return isDrain(*demand, scenario->getInterval());
 }
 
 void DemandProjectManager::transformToDrainDemand(unsigned id, std::shared_ptr<Demand> demand) {

@@ -3,9 +3,9 @@
 #include "elements/common/Elements.h"
 #include "elements/common/Steps.h"
 
-#include <stdexcept>
-
 namespace Lagomare2010 {
+
+using namespace Lagomare;
 
 namespace {
 
@@ -22,10 +22,7 @@ const std::map<ElementType, std::function<std::vector<unsigned>()>> ElementBdIdF
     {ElementType::NaturalLink, makeLink}};
 
 std::vector<unsigned> ElementBdIdFactory::makeVectorOfBdIds(ElementType type) {
-  const auto maker = mapOfLambdas.find(type);
-  if (maker == mapOfLambdas.end())
-    throw std::invalid_argument("ElementBdIdFactory::makeVectorOfBdIds: invalid element type");
-  return maker->second();
+  return makerOf(mapOfLambdas, type, "ElementBdIdFactory::makeVectorOfBdIds")();
 }
 
 std::vector<unsigned> ElementBdIdFactory::makeJunction() { return idsAnswering(idsOfPoints("1")); }

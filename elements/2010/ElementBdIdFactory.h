@@ -13,6 +13,11 @@ namespace Lagomare2010 {
 /// The database ids of the elements of a kind, ascending, each once.
 class LAGOMARE_EXPORT ElementBdIdFactory {
 public:
+  /// The kinds that are served: 0, 2, 7 and 11.
+  static const std::map<ElementType, std::function<std::vector<unsigned>()>> mapOfLambdas;
+
+  ElementBdIdFactory() = delete;
+
   /// Throws std::invalid_argument "ElementBdIdFactory::makeVectorOfBdIds: invalid element type" for kinds
   /// other than 0, 2, 7 and 11.
   [[nodiscard]] static std::vector<unsigned> makeVectorOfBdIds(ElementType type);
@@ -23,9 +28,6 @@ public:
   [[nodiscard]] static std::vector<unsigned> makeLink();
 
   [[nodiscard]] static std::vector<unsigned> makeVector(const QueryResult& rows);
-
-private:
-  static const std::map<ElementType, std::function<std::vector<unsigned>()>> mapOfLambdas;
 };
 
 } // namespace Lagomare2010

@@ -1,17 +1,19 @@
 #include "elements/2010/ElementProjectManager.h"
 
 #include "elements/2010/SerieProjectManager.h"
+#include "elements/common/Elements.h"
 #include "model/Scenario.h"
 #include "model/TeluCoreProgressBar.h"
 
 namespace Lagomare2010 {
 
+using namespace Lagomare;
+
 const std::string ElementProjectManager::generalInfoTable = "Pontos";
 const std::string ElementProjectManager::whereEH1 = "where EstHidr = 1";
 const std::string ElementProjectManager::natFlowTable = "Vazao";
 
-ElementProjectManager::ElementProjectManager(const std::map<unsigned, std::shared_ptr<Element>>& elementsById,
-                                             std::shared_ptr<Scenario> scenarioToFill)
+ElementProjectManager::ElementProjectManager(const ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill)
     : elements(elementsById), scenario(std::move(scenarioToFill)) {}
 
 ElementProjectManager::~ElementProjectManager() = default;
@@ -20,7 +22,8 @@ void ElementProjectManager::load(TeluCoreProgressBar& bar) {
   validElement();
   if (steps.empty())
     makeLambdas();
-  for (const auto& step : steps)
+  const auto registered = steps; // a step may register steps anew
+  for (const auto& step : registered)
     step(this, bar);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "elements/common/Elements.h"
+#include "elements/common/ElementMap.h"
 #include "lagomare_export.h"
 
 #include <functional>
@@ -26,8 +26,7 @@ public:
   static const std::string whereEH1;         ///< "where EstHidr = 1"
   static const std::string natFlowTable;     ///< "Vazao"
 
-  ElementProjectManager(const std::map<unsigned, std::shared_ptr<Element>>& elementsById,
-                        std::shared_ptr<Scenario> scenarioToFill);
+  ElementProjectManager(const ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
 
   /// Registers the kind's steps in the order in which they run.
   virtual void makeLambdas() = 0;

@@ -1,12 +1,14 @@
 #include "elements/2010/JunctionProjectManager.h"
 
+#include "elements/common/Elements.h"
+
 namespace Lagomare2010 {
+
+using namespace Lagomare;
 
 void JunctionProjectManager::makeLambdas() { steps = {NodeProjectManager::loadGeneralInfo}; }
 
-void JunctionProjectManager::validElement() {
-  requireKind(elements, ElementType::Junction, "JunctionProjectManager::validElement(): invalid element type");
-}
+void JunctionProjectManager::validElement() { requireKind(elements, ElementType::Junction, "JunctionProjectManager"); }
 
 unsigned JunctionProjectManager::getElementType() { return 1; }
 

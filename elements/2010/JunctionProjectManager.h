@@ -4,6 +4,7 @@
 
 namespace Lagomare2010 {
 
+/// Loads junctions: general information and natural flows.
 class LAGOMARE_EXPORT JunctionProjectManager : public NodeProjectManager {
 public:
   using NodeProjectManager::NodeProjectManager;

@@ -1,20 +1,24 @@
 #include "elements/2010/LinkProjectManager.h"
 
 #include "access/Fields.h"
+#include "elements/common/Elements.h"
 #include "elements/common/Links.h"
 #include "elements/common/Steps.h"
 
 namespace Lagomare2010 {
 
+using namespace Lagomare;
+
 const std::string LinkProjectManager::linkGeneralInfoTable = "Links";
 const std::string LinkProjectManager::linkDatas = "LinksDados";
 const std::string LinkProjectManager::linkTrafficLimitTable = "LinksCmaxEH";
 
-void LinkProjectManager::makeLambdas() { steps = {loadTrafficLimit, loadLinkDatas, loadGeneralInfo}; }
-
-void LinkProjectManager::validElement() {
-  requireKind(elements, ElementType::NaturalLink, "LinkProjectManager::validElement(): invalid element type");
+void LinkProjectManager::makeLambdas() {
+  // The series are filled before the links get their names and their ends.
+  steps = {loadTrafficLimit, loadLinkDatas, loadGeneralInfo};
 }
+
+void LinkProjectManager::validElement() { requireKind(elements, ElementType::NaturalLink, "LinkProjectManager"); }
 
 void LinkProjectManager::addElementInScenery(std::shared_ptr<Element> element) {
   scenario->addLink(std::dynamic_pointer_cast<Link>(element), 0);
@@ -26,8 +30,7 @@ void LinkProjectManager::loadTrafficLimit(ElementProjectManager* base, TeluCoreP
   const auto rows = ask("select Lnk, Cmax from " + linkTrafficLimitTable + " " + whereEH1, false);
   if (rows.empty())
     return;
-  auto& loader = dynamic_cast<LinkProjectManager&>(*base);
-  loadFlowLimits(rows, loader.elements, loader.scenario->getInterval());
+  loadFlowLimits(rows, as<LinkProjectManager>(base).elements, as<LinkProjectManager>(base).scenario->getInterval());
   finishStep(bar);
 }
 
@@ -35,7 +38,7 @@ void LinkProjectManager::loadLinkDatas(ElementProjectManager* base, TeluCoreProg
   const auto rows = ask("select * from " + linkDatas, false);
   if (rows.empty())
     return;
-  auto& loader = dynamic_cast<LinkProjectManager&>(*base);
+  auto& loader = as<LinkProjectManager>(base);
   forEachElement<Link>(rows, loader.elements, [&loader](const auto& link, const Row& row) {
     fillLoss(*link, numberAt(row, 3), loader.scenario->getInterval());
   });
@@ -46,10 +49,9 @@ void LinkProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCorePr
   const auto rows = ask("select * from " + linkGeneralInfoTable, false);
   if (rows.empty())
     return;
-  auto& loader = dynamic_cast<LinkProjectManager&>(*base);
+  auto& loader = as<LinkProjectManager>(base);
   forEachElement<Link>(rows, loader.elements, [&loader](const auto& link, const Row& row) {
-    loader.loadElementInfo(link, row);
-    wire(link, row, *loader.scenario);
+    loadLink(loader, link, row, {/*upstream*/ 2, /*downstream*/ 3}, *loader.scenario);
   });
   finishStep(bar);
 }

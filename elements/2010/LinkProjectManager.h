@@ -19,7 +19,9 @@ public:
   void addElementInScenery(std::shared_ptr<Element> element) override;
   [[nodiscard]] unsigned getElementType() override;
 
-  // Each step does nothing at all where its query has no rows.
+  // Each step does nothing at all where its query has no rows, and throws std::invalid_argument "Invalid serie type!"
+  // where a link lacks the series. An end that the scenario has not is std::runtime_error
+  // "LinkProjectManager::loadGeneralInfo: invalid upStream" or the same with "downStream".
 
   /// The flow limits of state 1, m³/s.
   static void loadTrafficLimit(ElementProjectManager* base, TeluCoreProgressBar& bar);

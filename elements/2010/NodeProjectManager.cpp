@@ -6,12 +6,14 @@
 
 namespace Lagomare2010 {
 
+using namespace Lagomare;
+
 void NodeProjectManager::addElementInScenery(std::shared_ptr<Element> element) {
   scenario->addNode(std::dynamic_pointer_cast<Node>(element), 0, element->bdId);
 }
 
 void NodeProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<NodeProjectManager&>(*base);
+  auto& loader = as<NodeProjectManager>(base);
   const auto rows =
       ask("select * from " + generalInfoTable + " where Tipo = " + std::to_string(loader.getElementType()), false);
   if (rows.empty())

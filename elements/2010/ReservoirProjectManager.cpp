@@ -1,10 +1,23 @@
 #include "elements/2010/ReservoirProjectManager.h"
 
 #include "elements/2010/SerieProjectManager.h"
+#include "elements/common/Elements.h"
+#include "elements/common/Priorities.h"
 #include "elements/common/Reservoirs.h"
+#include "elements/common/StateSeries.h"
 #include "elements/common/Steps.h"
+#include "model/PriorityReservoirSettings.h"
 
 namespace Lagomare2010 {
+
+using namespace Lagomare;
+
+namespace {
+
+constexpr VolumeColumns volumeColumns{/*initial*/ 3, /*minimum*/ 2, /*maximum*/ 1};
+constexpr CurveColumns curveColumns{/*level*/ 3, /*area*/ 1, /*volume*/ 2};
+
+} // namespace
 
 const std::string ReservoirProjectManager::reservoirVolumesTable = "Res";
 const std::string ReservoirProjectManager::reservoirIsHydrologicalSystem = "ResSubsist";
@@ -27,24 +40,23 @@ void ReservoirProjectManager::makeLambdas() {
 }
 
 void ReservoirProjectManager::validElement() {
-  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager::validElement(): invalid element type");
+  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager");
 }
 
 unsigned ReservoirProjectManager::getElementType() { return 2; }
 
 void ReservoirProjectManager::loadVolumes(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask("select * from " + reservoirVolumesTable, false);
   if (rows.empty())
     return;
-  forEachElement<Reservoir>(rows, loader.elements, [](const auto& reservoir, const Row& row) {
-    setVolumes(*reservoir, row, {3, 2, 1});
-  });
+  forEachElement<Reservoir>(rows, loader.elements,
+                            [](const auto& reservoir, const Row& row) { setVolumes(*reservoir, row, volumeColumns); });
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadIsHydrologicalSystem(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask("select * from " + reservoirIsHydrologicalSystem, false);
   if (rows.empty())
     return;
@@ -55,21 +67,20 @@ void ReservoirProjectManager::loadIsHydrologicalSystem(ElementProjectManager* ba
 }
 
 void ReservoirProjectManager::loadCavInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  loadCurves(ask("select * from " + reservoirCavTable, true), dynamic_cast<ReservoirProjectManager&>(*base).elements,
-             {3, 1, 2});
+  loadCurves(ask("select * from " + reservoirCavTable, true), as<ReservoirProjectManager>(base).elements, curveColumns);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadEtpPrec(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   constexpr double mmPerMetre = 1000.0;
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask("select Res, Evap from " + reservoirEvapTable, false);
   loadNetEvaporation(rows, loader.elements, loader.scenario->getInterval(), mmPerMetre);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   fillTargets(loader.elements, loader.scenario->getInterval());
   SerieProjectManager::load(SerieType::TargetVolume, loader.scenario->getInterval(), reservoirTagetVolumeTable,
                             loader.elements, "Res", "Oprr", whereEH1);
@@ -77,14 +88,14 @@ void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, Telu
 }
 
 void ReservoirProjectManager::loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask("select Res, Oprp from " + reservoirPriorityTable + " " + whereEH1, false);
   loadPriorities<PriorityReservoirSettings>(rows, loader.elements, *loader.scenario);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   if (hasDefaultStates(*loader.scenario))
     loadStatePriorities<PriorityReservoirSettings>(ask("select Res, Oprp from " + reservoirPriorityTable, false),
                                                    *loader.scenario);
@@ -92,12 +103,10 @@ void ReservoirProjectManager::loadPriorityHydrologicalState(ElementProjectManage
 }
 
 void ReservoirProjectManager::loadTargetVolumeHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
-  for (unsigned state = 1; state <= hydrologicalStatesOf(*loader.scenario).getNumOfStates(); ++state) {
-    const auto values = askValues(
-        "select Res, Oprr from " + reservoirTagetVolumeTable + " where EstHidr = " + std::to_string(state), false);
-    loadStateSeries<PriorityReservoirSettings>(values, *loader.scenario, state, Layout::MonthlyProfile);
-  }
+  auto& loader = as<ReservoirProjectManager>(base);
+  loadEachState<PriorityReservoirSettings>(*loader.scenario, Layout::MonthlyProfile, [](const std::string& state) {
+    return askValues("select Res, Oprr from " + reservoirTagetVolumeTable + " where EstHidr = " + state, false);
+  });
   finishStep(bar);
 }
 

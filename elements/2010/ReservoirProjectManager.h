@@ -4,6 +4,7 @@
 
 namespace Lagomare2010 {
 
+/// Loads reservoirs: volumes in hm³, areas in km² and levels in m as the project holds them.
 class LAGOMARE_EXPORT ReservoirProjectManager : public NodeProjectManager {
 public:
   static const std::string reservoirVolumesTable;         ///< "Res"

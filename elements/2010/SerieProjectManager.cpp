@@ -5,15 +5,16 @@
 
 namespace Lagomare2010 {
 
+using namespace Lagomare;
+
 void SerieProjectManager::load(SerieType type, const Interval& interval, const std::string& table,
-                               const std::map<unsigned, std::shared_ptr<Element>>& elements, const std::string& idField,
-                               const std::string& valueField, const std::string& where) {
+                               const ElementMap& elements, const std::string& idField, const std::string& valueField,
+                               const std::string& where) {
   const auto values = askValues("select " + idField + ", " + valueField + " from " + table + " " + where, true);
   loadSeries(values, elements, type, interval, Layout::MonthlyProfile);
 }
 
-void SerieProjectManager::loadNatFlow(const Interval& interval,
-                                      const std::map<unsigned, std::shared_ptr<Element>>& elements) {
+void SerieProjectManager::loadNatFlow(const Interval& interval, const ElementMap& elements) {
   const auto values = askValues("select Pto, U from " + ElementProjectManager::natFlowTable, true);
   loadSeries(values, elements, SerieType::NaturalAffluentFlow, interval, Layout::Sequence);
 }

@@ -2,12 +2,16 @@
 
 #include "elements/2013/SerieProjectManager.h"
 #include "elements/common/Demands.h"
+#include "elements/common/Elements.h"
 #include "elements/common/Nodes.h"
 #include "elements/common/Priorities.h"
+#include "elements/common/StateSeries.h"
 #include "elements/common/Steps.h"
 #include "model/PriorityDemandSettings.h"
 
 namespace Lagomare2013 {
+
+using namespace Lagomare;
 
 const std::string DemandProjectManager::demandDemandTable = "LgmDemDemSC";
 const std::string DemandProjectManager::demandPriorityTable = "LgmDemPrior";
@@ -15,33 +19,27 @@ const std::string DemandProjectManager::demandGeneralInfoFields = "NumPonto, Nom
 const std::string DemandProjectManager::demandGeneralInfoTable = "Tk_Dem_FEA";
 
 void DemandProjectManager::makeLambdas() {
-  // Drains take their places before any settings are looked up.
+  // Drains take the places of demands before these enter the scenario, and before settings are looked up.
   steps = {loadDemandSerie, loadGeneralInfo, loadPriority, loadPriorityHydrologicalState,
            loadWaterDemandHydrologicalState};
 }
 
-void DemandProjectManager::validElement() {
-  requireKind(elements, ElementType::HumanDemand, "DemandProjectManager::validElement(): invalid element type");
+void DemandProjectManager::validElement() { requireKind(elements, ElementType::HumanDemand, "DemandProjectManager"); }
+
+bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
+  return isDrain(*demand, scenario->getInterval());
 }
 
 void DemandProjectManager::loadDemandSerie(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   SerieProjectManager::load(SerieType::WaterDemand, loader.scenario->getInterval(), demandDemandTable, loader.elements,
                             whereEH1);
   replaceDrains(loader, loader.elements);
   finishStep(bar);
 }
 
-bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
-  return isDrain(*demand, scenario->getInterval());
-}
-
-void DemandProjectManager::transformToDrainDemand(unsigned id, std::shared_ptr<Demand> demand) {
-  elements[id] = makeDrain(*demand);
-}
-
 void DemandProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   const auto rows = ask("select " + demandGeneralInfoFields + " from " + demandGeneralInfoTable, false);
   if (rows.empty())
     return;
@@ -50,26 +48,29 @@ void DemandProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCore
 }
 
 void DemandProjectManager::loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   const auto rows = ask(valuesOf(demandPriorityTable) + " " + whereEH1, false);
   loadPriorities<PriorityDemandSettings>(rows, loader.elements, *loader.scenario);
   finishStep(bar);
 }
 
 void DemandProjectManager::loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
+  auto& loader = as<DemandProjectManager>(base);
   if (hasDefaultStates(*loader.scenario))
     loadStatePriorities<PriorityDemandSettings>(ask(valuesOf(demandPriorityTable), false), *loader.scenario);
   finishStep(bar);
 }
 
 void DemandProjectManager::loadWaterDemandHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<DemandProjectManager&>(*base);
-  for (unsigned state = 1; state <= hydrologicalStatesOf(*loader.scenario).getNumOfStates(); ++state) {
-    const auto values = askValues(valuesOf(demandDemandTable) + " where EstHidr = " + std::to_string(state), false);
-    loadStateSeries<PriorityDemandSettings>(values, *loader.scenario, state, Layout::Sequence);
-  }
+  auto& loader = as<DemandProjectManager>(base);
+  loadEachState<PriorityDemandSettings>(*loader.scenario, Layout::Sequence, [](const std::string& state) {
+    return askValues(valuesOf(demandDemandTable) + " where EstHidr = " + state, false);
+  });
   finishStep(bar);
+}
+
+void DemandProjectManager::transformToDrainDemand(unsigned id, std::shared_ptr<Demand> demand) {
+  elements[id] = makeDrain(*demand);
 }
 
 } // namespace Lagomare2013

@@ -31,7 +31,8 @@ public:
   /// The demands of each state, whatever the kind of states.
   static void loadWaterDemandHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar);
 
-  /// See isDrain.
+  /// At least 1000 m³/s, less a tolerance of 1e-6, at every date of the scenario's interval. Throws
+  /// std::invalid_argument "Invalid serie type!" where the demand has no demand series.
   [[nodiscard]] bool isDrainDemand(std::shared_ptr<Demand> demand);
   /// Puts a drain into the loader's map under the id.
   void transformToDrainDemand(unsigned id, std::shared_ptr<Demand> demand);

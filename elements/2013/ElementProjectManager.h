@@ -1,6 +1,6 @@
 #pragma once
 
-#include "elements/common/Elements.h"
+#include "elements/common/ElementMap.h"
 #include "lagomare_export.h"
 
 #include <functional>
@@ -25,8 +25,7 @@ public:
   static const std::string whereEH1;     ///< "where EstHidr = 1"
   static const std::string natFlowTable; ///< "LgmVazNat"
 
-  ElementProjectManager(const std::map<unsigned, std::shared_ptr<Element>>& elementsById,
-                        std::shared_ptr<Scenario> scenarioToFill);
+  ElementProjectManager(const ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
 
   /// Registers the kind's steps in the order in which they run.
   virtual void makeLambdas() = 0;
@@ -46,11 +45,10 @@ public:
   /// Fills the natural-flow series of all elements of this loader, in m³/s.
   void loadNatFlowSerie();
 
-protected:
-  /// "select NumPto, Valor from " and the table: the columns of every table of values, natural flows to
-  /// priorities.
+  /// "select NumPto, Valor from " and the table: the columns of every table of values of nodes.
   [[nodiscard]] static std::string valuesOf(const std::string& table);
 
+protected:
   ElementMap elements;
   std::shared_ptr<Scenario> scenario;
   std::vector<std::function<void(ElementProjectManager*, TeluCoreProgressBar&)>> steps;

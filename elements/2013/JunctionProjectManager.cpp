@@ -1,22 +1,23 @@
 #include "elements/2013/JunctionProjectManager.h"
 
+#include "elements/common/Elements.h"
 #include "elements/common/Nodes.h"
 #include "elements/common/Steps.h"
 #include "model/Junction.h"
 
 namespace Lagomare2013 {
 
+using namespace Lagomare;
+
 const std::string JunctionProjectManager::junctionGeneralInfoTable = "Tk_Pas_FEA";
 const std::string JunctionProjectManager::junctionGeneralInfoFields = "NumPonto, Nome, Coord_X, Coord_Y";
 
 void JunctionProjectManager::makeLambdas() { steps = {loadGeneralInfo}; }
 
-void JunctionProjectManager::validElement() {
-  requireKind(elements, ElementType::Junction, "JunctionProjectManager::validElement(): invalid element type");
-}
+void JunctionProjectManager::validElement() { requireKind(elements, ElementType::Junction, "JunctionProjectManager"); }
 
 void JunctionProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<JunctionProjectManager&>(*base);
+  auto& loader = as<JunctionProjectManager>(base);
   const auto rows = ask("select " + junctionGeneralInfoFields + " from " + junctionGeneralInfoTable, false);
   if (rows.empty())
     return;

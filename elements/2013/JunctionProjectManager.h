@@ -4,6 +4,7 @@
 
 namespace Lagomare2013 {
 
+/// Loads junctions: general information and natural flows.
 class LAGOMARE_EXPORT JunctionProjectManager : public NodeProjectManager {
 public:
   static const std::string junctionGeneralInfoTable;  ///< "Tk_Pas_FEA"

@@ -5,6 +5,8 @@
 
 namespace Lagomare2013 {
 
+using namespace Lagomare;
+
 void NodeProjectManager::addElementInScenery(std::shared_ptr<Element> element) {
   scenario->addNode(std::dynamic_pointer_cast<Node>(element), 0, element->bdId);
 }

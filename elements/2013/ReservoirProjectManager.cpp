@@ -1,10 +1,23 @@
 #include "elements/2013/ReservoirProjectManager.h"
 
 #include "elements/2013/SerieProjectManager.h"
+#include "elements/common/Elements.h"
+#include "elements/common/Priorities.h"
 #include "elements/common/Reservoirs.h"
+#include "elements/common/StateSeries.h"
 #include "elements/common/Steps.h"
+#include "model/PriorityReservoirSettings.h"
 
 namespace Lagomare2013 {
+
+using namespace Lagomare;
+
+namespace {
+
+constexpr VolumeColumns volumeColumns{/*initial*/ 6, /*minimum*/ 5, /*maximum*/ 4};
+constexpr CurveColumns curveColumns{/*level*/ 1, /*area*/ 2, /*volume*/ 3};
+
+} // namespace
 
 const std::string ReservoirProjectManager::reservoirGeneralInfoTable = "Tk_Res_FEA";
 const std::string ReservoirProjectManager::reservoirGeneralInfoFields =
@@ -26,15 +39,15 @@ void ReservoirProjectManager::makeLambdas() {
 }
 
 void ReservoirProjectManager::validElement() {
-  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager::validElement(): invalid element type");
+  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager");
 }
 
 void ReservoirProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask("select " + reservoirGeneralInfoFields + " from " + reservoirGeneralInfoTable, false);
   // Natural flows are loaded even where there are no rows.
   forEachElement<Reservoir>(rows, loader.elements, [&loader](const auto& reservoir, const Row& row) {
-    setVolumes(*reservoir, row, {6, 5, 4});
+    setVolumes(*reservoir, row, volumeColumns);
     loader.loadNodeInfo(reservoir, row);
     setSystemFlag(*reservoir, row, 7, *loader.scenario);
   });
@@ -43,20 +56,19 @@ void ReservoirProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluC
 }
 
 void ReservoirProjectManager::loadCavInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  const auto rows = ask("select * from " + reservoirCavTable, true);
-  loadCurves(rows, dynamic_cast<ReservoirProjectManager&>(*base).elements, {1, 2, 3});
+  loadCurves(ask("select * from " + reservoirCavTable, true), as<ReservoirProjectManager>(base).elements, curveColumns);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadEtpPrec(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask(valuesOf(reservoirEvapTable), false);
   loadNetEvaporation(rows, loader.elements, loader.scenario->getInterval(), 1.0);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   fillTargets(loader.elements, loader.scenario->getInterval());
   SerieProjectManager::load(SerieType::TargetVolume, loader.scenario->getInterval(), reservoirTagetVolumeTable,
                             loader.elements, whereEH1);
@@ -64,26 +76,24 @@ void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, Telu
 }
 
 void ReservoirProjectManager::loadPriority(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   const auto rows = ask(valuesOf(reservoirPriorityTable) + " " + whereEH1, false);
   loadPriorities<PriorityReservoirSettings>(rows, loader.elements, *loader.scenario);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadPriorityHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
+  auto& loader = as<ReservoirProjectManager>(base);
   if (hasDefaultStates(*loader.scenario))
     loadStatePriorities<PriorityReservoirSettings>(ask(valuesOf(reservoirPriorityTable), false), *loader.scenario);
   finishStep(bar);
 }
 
 void ReservoirProjectManager::loadTargetVolumeHydrologicalState(ElementProjectManager* base, TeluCoreProgressBar& bar) {
-  auto& loader = dynamic_cast<ReservoirProjectManager&>(*base);
-  for (unsigned state = 1; state <= hydrologicalStatesOf(*loader.scenario).getNumOfStates(); ++state) {
-    const auto values =
-        askValues(valuesOf(reservoirTagetVolumeTable) + " where EstHidr = " + std::to_string(state), false);
-    loadStateSeries<PriorityReservoirSettings>(values, *loader.scenario, state, Layout::Sequence);
-  }
+  auto& loader = as<ReservoirProjectManager>(base);
+  loadEachState<PriorityReservoirSettings>(*loader.scenario, Layout::Sequence, [](const std::string& state) {
+    return askValues(valuesOf(reservoirTagetVolumeTable) + " where EstHidr = " + state, false);
+  });
   finishStep(bar);
 }
 

@@ -5,10 +5,12 @@
 
 namespace Lagomare2013 {
 
+using namespace Lagomare;
+
 void SerieProjectManager::load(SerieType type, const Interval& interval, const std::string& table,
-                               const std::map<unsigned, std::shared_ptr<Element>>& elements, const std::string& where) {
+                               const ElementMap& elements, const std::string& where) {
   // The blank before the condition is sent even where there is none.
-  const auto values = askValues("select NumPto, Valor from " + table + " " + where, true);
+  const auto values = askValues(ElementProjectManager::valuesOf(table) + " " + where, true);
   loadSeries(values, elements, type, interval, Layout::Sequence);
 }
 

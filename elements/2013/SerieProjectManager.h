@@ -11,9 +11,11 @@ namespace Lagomare2013 {
 /// InvalidField or FieldOutOfRange ("stod").
 class LAGOMARE_EXPORT SerieProjectManager {
 public:
+  SerieProjectManager() = delete;
+
   /// One row per date, in order; dates left over keep what the series held.
-  static void load(SerieType type, const Interval& interval, const std::string& table,
-                   const std::map<unsigned, std::shared_ptr<Element>>& elements, const std::string& where);
+  static void load(SerieType type, const Interval& interval, const std::string& table, const ElementMap& elements,
+                   const std::string& where);
 };
 
 } // namespace Lagomare2013

@@ -6,6 +6,8 @@
 #include "model/EnumUnitFactoryByType.h"
 #include "model/NumericalUtils.h"
 
+namespace Lagomare {
+
 namespace {
 
 constexpr double drainThreshold = 1000.0; // m³/s
@@ -34,3 +36,5 @@ std::shared_ptr<DrainDemand> makeDrain(const Demand& demand) {
   drain->setName(demand.getName());
   return drain;
 }
+
+} // namespace Lagomare

@@ -3,8 +3,11 @@
 #include "elements/common/Elements.h"
 #include "model/DrainDemand.h"
 
-/// Whether the demand stands for a drain: at least 1000 m³/s at every date of the interval. Throws
-/// std::invalid_argument "Invalid serie type!" where it has no demand series.
+namespace Lagomare {
+
+/// Whether the demand stands for a drain: at least 1000 m³/s, less a tolerance of 1e-6, at every date of the interval;
+/// so does any demand where that is empty. Throws std::invalid_argument "Invalid serie type!" where it has no demand
+/// series.
 [[nodiscard]] bool isDrain(const Demand& demand, const Interval& interval);
 
 /// A drain with the demand's position, id and name, and with series of its own that are empty.
@@ -20,3 +23,5 @@ void replaceDrains(Loader& loader, const ElementMap& elements) {
       loader.transformToDrainDemand(id, demand);
   }
 }
+
+} // namespace Lagomare

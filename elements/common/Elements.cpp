@@ -2,12 +2,12 @@
 
 #include "access/Fields.h"
 
-#include <stdexcept>
+namespace Lagomare {
 
-void requireKind(const ElementMap& elements, ElementType type, const std::string& fault) {
+void requireKind(const ElementMap& elements, ElementType type, const std::string& loader) {
   for (const auto& entry : elements)
     if (!entry.second || entry.second->getElementType()->type() != type)
-      throw std::invalid_argument(fault);
+      throw std::invalid_argument(loader + "::validElement(): invalid element type");
 }
 
 std::vector<unsigned> idsIn(const QueryResult& rows) {
@@ -28,3 +28,5 @@ Serie& serieOf(const Element& element, SerieType type) {
     throw std::invalid_argument("Invalid serie type!");
   return *serie;
 }
+
+} // namespace Lagomare

@@ -1,18 +1,28 @@
 #pragma once
 
 #include "access/QueryResult.h"
-#include "model/Element.h"
+#include "elements/common/ElementMap.h"
 
-#include <map>
-#include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
-/// The elements that a loader fills, by database id; shared with whoever made them.
-using ElementMap = std::map<unsigned, std::shared_ptr<Element>>;
+namespace Lagomare {
 
-/// Throws std::invalid_argument with the given text where an element is of another kind.
-void requireKind(const ElementMap& elements, ElementType type, const std::string& fault);
+/// Throws std::invalid_argument where an element is of another kind: the name of the loader's class, then
+/// "::validElement(): invalid element type".
+void requireKind(const ElementMap& elements, ElementType type, const std::string& loader);
+
+/// What a factory's table holds for a kind. Throws std::invalid_argument where it holds nothing: the operation, then
+/// ": invalid element type".
+template <typename Maker>
+[[nodiscard]] const Maker& makerOf(const std::map<ElementType, Maker>& makers, ElementType type,
+                                   const std::string& operation) {
+  const auto found = makers.find(type);
+  if (found == makers.end())
+    throw std::invalid_argument(operation + ": invalid element type");
+  return found->second;
+}
 
 /// The ids of an answer, ascending, each once.
 [[nodiscard]] std::vector<unsigned> idsIn(const QueryResult& rows);
@@ -38,3 +48,5 @@ void forEachElement(const QueryResult& rows, const ElementMap& elements, Visit v
     if (const auto element = findElement<T>(elements, id))
       visit(element, rowsOfId.front());
 }
+
+} // namespace Lagomare

@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+namespace Lagomare {
+
 namespace {
 
 constexpr double percent = 100.0;
@@ -31,11 +33,13 @@ void fillLoss(const Link& link, double fraction, const Interval& interval) {
   loss.fill(fraction * percent);
 }
 
-void wire(const std::shared_ptr<Link>& link, const Row& row, const Scenario& scenario) {
-  const auto upstream = endOf(row, 2, scenario, "upStream");
-  const auto downstream = endOf(row, 3, scenario, "downStream");
+void wire(const std::shared_ptr<Link>& link, const Row& row, const EndColumns& columns, const Scenario& scenario) {
+  const auto upstream = endOf(row, columns.upstream, scenario, "upStream");
+  const auto downstream = endOf(row, columns.downstream, scenario, "downStream");
   link->upstream = upstream;
   link->downstream = downstream;
   upstream->addDownstream(link);
   downstream->addUpstream(link);
 }
+
+} // namespace Lagomare

@@ -4,6 +4,8 @@
 #include "model/Link.h"
 #include "model/Scenario.h"
 
+namespace Lagomare {
+
 /// The flow limit of each link, from column 1: one constant over the interval. Throws as serieOf and numberAt
 /// do.
 void loadFlowLimits(const QueryResult& rows, const ElementMap& elements, const Interval& interval);
@@ -11,7 +13,23 @@ void loadFlowLimits(const QueryResult& rows, const ElementMap& elements, const I
 /// Fills the loss series, in percent, over the interval with a fraction.
 void fillLoss(const Link& link, double fraction, const Interval& interval);
 
-/// Joins a link of the scenario to its upstream node, whose id stands in column 2, and to its downstream
-/// node, in column 3. Throws std::runtime_error "LinkProjectManager::loadGeneralInfo: invalid upStream", or
-/// the same with "downStream", where the scenario has no such node.
-void wire(const std::shared_ptr<Link>& link, const Row& row, const Scenario& scenario);
+/// Where a link's row holds the ids of its two ends.
+struct EndColumns {
+  std::size_t upstream;
+  std::size_t downstream;
+};
+
+/// Joins a link of the scenario to its upstream, then to its downstream node. Throws std::runtime_error
+/// "LinkProjectManager::loadGeneralInfo: invalid upStream", or the same with "downStream", where the scenario has no
+/// such node.
+void wire(const std::shared_ptr<Link>& link, const Row& row, const EndColumns& columns, const Scenario& scenario);
+
+/// Has the loader put a link into the scenario, then joins it to its ends.
+template <typename Loader>
+void loadLink(Loader& loader, const std::shared_ptr<Link>& link, const Row& row, const EndColumns& columns,
+              const Scenario& scenario) {
+  loader.loadElementInfo(link, row);
+  wire(link, row, columns, scenario);
+}
+
+} // namespace Lagomare

@@ -3,6 +3,8 @@
 #include "access/Fields.h"
 #include "model/TeluUtmDegreeConversion.h"
 
+namespace Lagomare {
+
 void locate(Node& node, const Row& row, std::size_t eastingColumn, std::size_t northingColumn) {
   const double utmX = numberAt(row, eastingColumn);
   const double utmY = numberAt(row, northingColumn);
@@ -10,3 +12,5 @@ void locate(Node& node, const Row& row, std::size_t eastingColumn, std::size_t n
   node.setX(longitude);
   node.setY(latitude);
 }
+
+} // namespace Lagomare

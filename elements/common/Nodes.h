@@ -3,6 +3,8 @@
 #include "elements/common/Elements.h"
 #include "model/Node.h"
 
+namespace Lagomare {
+
 /// Sets the position in degrees from UTM coordinates in metres, the easting converted first.
 void locate(Node& node, const Row& row, std::size_t eastingColumn, std::size_t northingColumn);
 
@@ -13,3 +15,5 @@ void loadNodes(const QueryResult& rows, const ElementMap& elements, Loader& load
   forEachElement<N>(rows, elements, [&loader](const auto& node, const Row& row) { loader.loadNodeInfo(node, row); });
   loader.loadNatFlowSerie();
 }
+
+} // namespace Lagomare

@@ -1,7 +1,11 @@
 #include "elements/common/Reservoirs.h"
 
+#include "access/Fields.h"
+#include "elements/common/SettingsOf.h"
 #include "model/Calendar.h"
 #include "model/NumericalUtils.h"
+
+namespace Lagomare {
 
 namespace {
 
@@ -9,6 +13,7 @@ constexpr double tolerance = 1e-6;
 
 std::vector<std::vector<double>> readCurve(const std::vector<Row>& rows, const CurveColumns& columns) {
   std::vector<std::vector<double>> curve;
+  curve.reserve(rows.size());
   for (const Row& row : rows)
     curve.push_back({numberAt(row, columns.level), numberAt(row, columns.area), numberAt(row, columns.volume)});
   return curve;
@@ -16,6 +21,7 @@ std::vector<std::vector<double>> readCurve(const std::vector<Row>& rows, const C
 
 std::vector<double> readProfile(const std::vector<Row>& rows, double scale) {
   std::vector<double> profile;
+  profile.reserve(rows.size());
   for (const Row& row : rows)
     profile.push_back(numberAt(row, 1) * scale);
   return profile;
@@ -78,3 +84,5 @@ void fillTargets(const ElementMap& elements, const Interval& interval) {
     target.fill(1.0);
   }
 }
+
+} // namespace Lagomare

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "elements/common/Elements.h"
-#include "elements/common/Priorities.h"
 #include "model/PriorityReservoirSettings.h"
 #include "model/Reservoir.h"
+#include "model/Scenario.h"
+
+namespace Lagomare {
 
 /// The columns of a reservoir's volumes, in the order in which they are converted.
 struct VolumeColumns {
@@ -36,3 +38,5 @@ void loadNetEvaporation(const QueryResult& rows, const ElementMap& elements, con
 
 /// Gives every reservoir a target of 1.0, full, at every date. Throws as serieOf does.
 void fillTargets(const ElementMap& elements, const Interval& interval);
+
+} // namespace Lagomare

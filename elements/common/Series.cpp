@@ -2,8 +2,9 @@
 
 #include "model/Calendar.h"
 
-#include <algorithm>
 #include <optional>
+
+namespace Lagomare {
 
 namespace {
 
@@ -49,3 +50,5 @@ void layAsNeeded(const ValueColumn& values, Serie& serie, const Interval& interv
     return *number;
   });
 }
+
+} // namespace Lagomare

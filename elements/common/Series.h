@@ -3,6 +3,8 @@
 #include "access/ValueResult.h"
 #include "elements/common/Elements.h"
 
+namespace Lagomare {
+
 /// How the rows of an id stand for the dates of an interval. Where there are fewer rows than the dates need,
 /// the dates without a row keep what the series held.
 enum class Layout {
@@ -20,3 +22,5 @@ void loadSeries(const ValueResult& values, const ElementMap& elements, SerieType
 /// The same for one series, but each value is converted when its first date comes: rows that no date needs
 /// are not read.
 void layAsNeeded(const ValueColumn& values, Serie& serie, const Interval& interval, Layout layout);
+
+} // namespace Lagomare

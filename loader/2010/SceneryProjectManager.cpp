@@ -11,6 +11,8 @@
 
 namespace Lagomare2010 {
 
+using namespace Lagomare;
+
 namespace {
 
 // Columns of "DefGerais", which is read whole.

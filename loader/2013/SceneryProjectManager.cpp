@@ -12,6 +12,8 @@
 
 namespace Lagomare2013 {
 
+using namespace Lagomare;
+
 namespace {
 
 // Columns of sceneryGeneralInfoFields.

@@ -8,9 +8,11 @@
 #include <functional>
 #include <vector>
 
-/// Throws std::length_error where the series of so many elements over the interval cannot be meant: more than 2^30
-/// values (8 GiB) of one kind.
-void requireReasonableSize(std::size_t elements, const Interval& interval);
+namespace Lagomare {
+
+/// Throws std::length_error where the series of so many elements, over the scenario's interval and in each of its
+/// hydrological states, cannot be meant: more than 2^30 values (8 GiB).
+void requireReasonableSize(std::size_t elements, Scenario& scenario);
 
 /// Loads the elements of each kind in turn, under one progress bar, with the ids and the loaders that a dialect's two
 /// factories make. All ids are asked for before the first loader runs. False where the host asked to stop: the loaders
@@ -24,7 +26,7 @@ bool loadKinds(const std::vector<ElementType>& kinds, const std::shared_ptr<Scen
     ElementMap elements;
     for (const unsigned id : BdIdFactory::makeVectorOfBdIds(kind))
       elements[id] = ElementFactory::make(kind);
-    requireReasonableSize(elements.size(), scenario->getInterval());
+    requireReasonableSize(elements.size(), *scenario);
     loaders.push_back(LoaderFactory::make(kind, elements, scenario));
     steps += loaders.back()->numOfLambdas();
   }
@@ -37,3 +39,5 @@ bool loadKinds(const std::vector<ElementType>& kinds, const std::shared_ptr<Scen
   }
   return true;
 }
+
+} // namespace Lagomare

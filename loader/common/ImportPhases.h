@@ -5,6 +5,8 @@
 
 #include <functional>
 
+namespace Lagomare {
+
 /// The phases of an import, from the answer to the general-settings query on. Scenery is a dialect's scenario loader;
 /// wantsStates(row) tells whether the settings ask for hydrological states, and the tactical column refuses the project
 /// where it is not 0. The scenario is made, and counted, before that is known.
@@ -24,3 +26,5 @@ SceneryProjectManagerRet importScenario(const QueryResult& settings, WantsStates
     return {importCancelled, nullptr};
   return {importSucceeded, scenario};
 }
+
+} // namespace Lagomare

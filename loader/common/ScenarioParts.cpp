@@ -9,6 +9,8 @@
 
 #include <stdexcept>
 
+namespace Lagomare {
+
 namespace {
 
 constexpr std::uint32_t lastYear = 9999;
@@ -46,3 +48,5 @@ void loadStates(Scenario& scenario, const std::string& boundaryTable) {
     boundaries.push_back(numberAt(entry.second.front(), 1));
   states.setXValues(boundaries);
 }
+
+} // namespace Lagomare

@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace Lagomare {
+
 // What the scenario loaders of both dialects do alike.
 
 /// The months of so many years from the month of the start on: the end is the first day of the last month.
@@ -21,3 +23,5 @@
 /// Gives the scenario the kind of states "Padrão" and reads the boundaries between them, all columns of the table:
 /// column 1 of the first row of each id, in the order of the ids.
 void loadStates(Scenario& scenario, const std::string& boundaryTable);
+
+} // namespace Lagomare

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "model/Element.h"
+
+#include <map>
+#include <memory>
+
+/// The elements that a loader fills, by database id; shared with whoever made them.
+using ElementMap = std::map<unsigned, std::shared_ptr<Element>>;
