@@ -29,11 +29,11 @@ std::set<unsigned> nodeIds(Dialect dialect) {
 } // namespace
 
 std::string findBrokenLink(Dialect dialect) {
-  const QueryResult links = parseRows(readAnswer(LagomareProjectManager::fileResultQuery));
+  const QueryResult links = Lagomare::parseRows(readAnswer(LagomareProjectManager::fileResultQuery));
   const std::set<unsigned> nodes = nodeIds(dialect);
   for (const auto& [id, rows] : links)
     for (const std::size_t column : {upstreamColumn, downstreamColumn}) {
-      const unsigned node = unsignedAt(rows.front(), column);
+      const unsigned node = Lagomare::unsignedAt(rows.front(), column);
       if (nodes.count(node) == 0)
         return "link " + std::to_string(id) + (column == upstreamColumn ? " begins" : " ends") + " at node " +
                std::to_string(node) + ", which the project lacks; correct the link or add the node";

@@ -4,6 +4,7 @@
 #include "access/LagomareProjectManager.h"
 #include "tools/cli/Failure.h"
 #include "tools/cli/LastQuery.h"
+#include "tools/cli/Text.h"
 
 namespace LagomareCli {
 
@@ -23,7 +24,7 @@ Probe probe(Dialect dialect, const Inputs& inputs, const std::string& plainDatab
     return {!count.empty(), "the query executable's answer to a count is empty"};
   } catch (const FieldError&) {
     const std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
-    return {false, refusal.empty() ? "the query executable answered \"" + firstLineOfAnswer() +
+    return {false, refusal.empty() ? "the query executable answered \"" + excerpt(firstLineOfAnswer()) +
                                          "\", which is no row: a number, a blank, one field more"
                                    : refusal};
   }

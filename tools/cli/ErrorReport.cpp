@@ -3,6 +3,7 @@
 #include "access/FieldError.h"
 #include "tools/cli/BrokenLink.h"
 #include "tools/cli/LastQuery.h"
+#include "tools/cli/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -53,7 +54,7 @@ std::string faultOf(const FieldError& field, const std::exception& error, const 
     return "is missing from the row; the table needs the columns of this dialect, in their order";
   if (field.text()->empty())
     return "is empty where " + wanted + " must stand";
-  const std::string found = "holds \"" + *field.text() + "\"";
+  const std::string found = "holds \"" + excerpt(*field.text()) + "\"";
   if (dynamic_cast<const std::out_of_range*>(&error) == nullptr)
     return found + " where " + wanted + " must stand";
   return found + ", which does not fit: " +

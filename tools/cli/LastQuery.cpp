@@ -4,6 +4,7 @@
 #include "access/LagomareProjectManager.h"
 #include "tools/cli/Failure.h"
 #include "tools/cli/QueryLauncher.h"
+#include "tools/cli/Text.h"
 
 #include <map>
 
@@ -35,7 +36,7 @@ std::string between(const std::string& text, const std::string& before, const st
 }
 
 /// The script's one line is: executable "database" "sql" flag, with plain names in it.
-std::string sqlOfScript() { return between(readAnswer(LagomareProjectManager::scriptFile), "\" \"", "\""); }
+std::string sqlOfScript() { return between(Lagomare::readAnswer(LagomareProjectManager::scriptFile), "\" \"", "\""); }
 
 /// The names of a list of columns; FORMAT(name, pattern) is a date of that name.
 std::vector<std::string> namesIn(std::string list) {
@@ -59,7 +60,7 @@ std::string replaceAll(std::string text, const std::string& from, const std::str
 std::string notAnswered(const Inputs& inputs) {
   const std::string complaint = lastQueryComplaint();
   return "the query executable " + inputs.executable.string() + " did not answer" +
-         (complaint.empty() ? "" : ": " + complaint);
+         (complaint.empty() ? "" : ": " + excerpt(complaint));
 }
 
 } // namespace
@@ -85,19 +86,21 @@ std::string refusalOfLastQuery(const Inputs& inputs, const std::string& plainDat
   std::string reason = answer.substr(beginning.size());
   reason.erase(reason.find_last_not_of(". \r") + 1);
   reason.erase(0, reason.find_first_not_of(' '));
+  if (reason.find(LagomareProjectManager::fileResultQuery) != std::string::npos)
+    reason += " (the one here is under TMPDIR)";
   return replaceAll(reason == noAnswer ? notAnswered(inputs) : reason, plainDatabase, inputs.projectName);
 }
 
 std::string firstLineOfAnswer() {
-  const std::string answer = readAnswer(LagomareProjectManager::fileResultQuery);
+  const std::string answer = Lagomare::readAnswer(LagomareProjectManager::fileResultQuery);
   return answer.substr(0, answer.find('\n'));
 }
 
 std::size_t rowOfId(const std::string& idText) {
-  const std::string answer = readAnswer(LagomareProjectManager::fileResultQuery);
+  const std::string answer = Lagomare::readAnswer(LagomareProjectManager::fileResultQuery);
   std::size_t row = 0;
   std::size_t found = 0;
-  forEachLine(answer, [&](std::string_view line) {
+  Lagomare::forEachLine(answer, [&](std::string_view line) {
     ++row;
     if (found == 0 && (line == idText || line.substr(0, line.find(' ')) == idText))
       found = row;

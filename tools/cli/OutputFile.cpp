@@ -67,7 +67,7 @@ void OutputFile::openBeside(unsigned mode) {
   temporary_ = (place_.parent_path() / ".lagomare-XXXXXX").string();
   descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
   if (descriptor_ < 0)
-    return;
+    throw Failure("cannot write " + name_ + ": its folder takes no new file: " + systemText(errno));
   leftover_.emplace([file = temporary_] { ::unlink(file.c_str()); });
   checkRoom();
   if (::fchmod(descriptor_, mode) != 0)
@@ -99,8 +99,6 @@ void OutputFile::commit() {
   leftover_->keep();
 }
 
-void OutputFile::fail(int error) const {
-  throw Failure("cannot write " + name_ + ": " + (error == ENOENT ? "its folder does not exist" : systemText(error)));
-}
+void OutputFile::fail(int error) const { throw Failure("cannot write " + name_ + ": " + systemText(error)); }
 
 } // namespace LagomareCli

@@ -5,10 +5,6 @@
 #include "tools/cli/GeoJsonExport.h"
 #include "tools/cli/JsonExport.h"
 
-#include <cerrno>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace LagomareCli {
 
 namespace {
@@ -68,10 +64,12 @@ OutputFolder::OutputFolder(const std::string& name) {
   const fs::path folder = fs::absolute(name, error);
   if (fs::is_directory(folder, error))
     return;
-  if (::mkdir(folder.c_str(), 0777) != 0)
-    throw Failure("cannot make the folder " + name + ": " +
-                  (errno == EEXIST ? "a file of that name stands there" : systemText(errno)));
-  leftover_.emplace([folder] { ::rmdir(folder.c_str()); });
+  if (!fs::create_directory(folder, error))
+    throw Failure("cannot make the folder " + name + ": " + (error ? error.message() : "a file stands there"));
+  leftover_.emplace([folder] {
+    std::error_code notEmpty;
+    fs::remove(folder, notEmpty);
+  });
 }
 
 Outputs::Outputs(const ImportOptions& options, const Inputs& inputs)

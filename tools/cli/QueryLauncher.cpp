@@ -153,15 +153,15 @@ int launchQuery(char* arguments[]) {
 void stopQuery(const fs::path& directory) {
   std::error_code error;
   fs::remove(directory / executableLink, error);
-  const long group = std::atol(readAnswer((directory / groupFile).string()).c_str());
+  const long group = std::atol(Lagomare::readAnswer((directory / groupFile).string()).c_str());
   if (group > 1)
     ::kill(static_cast<pid_t>(-group), SIGKILL);
 }
 
-std::string lastLaunchedSql() { return readAnswer(sqlFile); }
+std::string lastLaunchedSql() { return Lagomare::readAnswer(sqlFile); }
 
 std::string lastQueryComplaint() {
-  std::string text = readAnswer(complaintFile);
+  std::string text = Lagomare::readAnswer(complaintFile);
   const std::size_t end = text.find_last_not_of(" \t\r\n");
   if (end == std::string::npos)
     return "";

@@ -87,6 +87,15 @@ std::string oneLine(std::string_view text) {
   return line;
 }
 
+std::string excerpt(const std::string& text) {
+  std::size_t length = 200;
+  if (text.size() <= length)
+    return text;
+  while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80) // not within a character
+    --length;
+  return text.substr(0, length) + "...";
+}
+
 std::string isoMonth(const Date& date) { return fmt::format("{:04}-{:02}", date.getYear(), unsigned{date.getMonth()}); }
 
 std::string isoDate(const Date& date) { return fmt::format("{}-{:02}", isoMonth(date), unsigned{date.getDay()}); }

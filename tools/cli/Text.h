@@ -16,6 +16,9 @@ namespace LagomareCli {
 /// escaped, no-break spaces are plain blanks.
 [[nodiscard]] std::string oneLine(std::string_view text);
 
+/// The beginning of a text that may be very long, for messages.
+[[nodiscard]] std::string excerpt(const std::string& text);
+
 /// Year, month and day: "1990-01-31".
 [[nodiscard]] std::string isoDate(const Date& date);
 /// "1990-01".
