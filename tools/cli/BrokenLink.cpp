@@ -29,7 +29,7 @@ std::set<unsigned> nodeIds(Dialect dialect) {
 } // namespace
 
 std::string findBrokenLink(Dialect dialect) {
-  const QueryResult links = Lagomare::parseRows(readAnswer(LagomareProjectManager::fileResultQuery));
+  const QueryResult links = Lagomare::parseRows(Lagomare::readAnswer(LagomareProjectManager::fileResultQuery));
   const std::set<unsigned> nodes = nodeIds(dialect);
   for (const auto& [id, rows] : links)
     for (const std::size_t column : {upstreamColumn, downstreamColumn}) {
