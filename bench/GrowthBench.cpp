@@ -18,6 +18,8 @@
 
 namespace LagomareBench {
 
+using namespace Lagomare;
+
 namespace {
 
 constexpr std::array<std::pair<const char*, unsigned>, 3> factors{{{"1×", 1}, {"10×", 10}, {"100×", 100}}};

@@ -8,6 +8,8 @@
 
 namespace LagomareBench {
 
+using namespace Lagomare;
+
 namespace {
 
 using Texts = std::vector<std::string>;

@@ -9,6 +9,8 @@
 
 namespace LagomareBench {
 
+using namespace Lagomare;
+
 namespace {
 
 const std::string valuesFile = "values.txt";

@@ -11,6 +11,8 @@
 
 namespace LagomareBench {
 
+using namespace Lagomare;
+
 namespace {
 
 const std::string database = "query.db";

@@ -6,6 +6,8 @@
 #include <iostream>
 #include <unistd.h>
 
+using namespace Lagomare;
+
 int main(int count, char** words) {
   const std::string parser = count == 3 ? words[1] : "";
   if (parser == "plain") {

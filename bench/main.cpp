@@ -58,6 +58,7 @@ int run(std::vector<char*> words) {
   addNumberBenches(works);
   addSeriesBenches(works);
   addQueryBenches(works, setting);
+  addAccessBenches(works, setting);
   addImportBenches(works, setting);
   addGrowthBenches(growths, setting);
   const bool succeeded = runRounds(rounds);
