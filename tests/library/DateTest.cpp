@@ -1,4 +1,4 @@
-#include "model/Calendar.h"
+#include "model/Date.h"
 
 #include <gmock/gmock.h>
 
@@ -13,7 +13,7 @@ std::string read(const std::string& text) {
 
 } // namespace
 
-TEST(DateTest, WalksTheCalendarByDaysAndMonths) {
+TEST(DateTest, WalksTheCalendar) {
   Date day(1899, 12, 31);
   std::vector<Date> days;
   for (int i = 0; i < 36891; ++i, day += 1)
@@ -22,12 +22,6 @@ TEST(DateTest, WalksTheCalendarByDaysAndMonths) {
   EXPECT_EQ(days.front() += 36891, day);
   for (auto before = days.rbegin(); before + 1 != days.rend(); ++before)
     ASSERT_EQ(--day, *before);
-
-  Date month(1999, 12, 15);
-  for (int i = 0; i < 3; ++i)
-    month += Calendar::incInterval(month, Interval());
-  EXPECT_EQ(month, Date(2000, 3, 1));
-  EXPECT_LT(Date(1999, 12, 31), Date(2000, 1, 1));
 }
 
 TEST(DateTest, StaysWithinTheYears1To9999) {

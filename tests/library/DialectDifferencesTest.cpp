@@ -1,6 +1,5 @@
 #include "ImportFixture.h"
 
-#include "access/FieldError.h"
 #include "model/Link.h"
 
 using namespace testing;
@@ -16,9 +15,6 @@ protected:
 
 class Dialect2013Test : public ImportTest {};
 
-const std::string reservoirsAndLink = R"(insert into reservoir (id, maximum, system) values (1, 9, 1), (2, 8, 1);
-  insert into link (id, up, down, loss) values (3, 1, 2, 0.5);)";
-
 } // namespace
 
 TEST_F(Dialect2010Test, TellsOfAColumnThatTheTableLacks) {
@@ -28,24 +24,13 @@ TEST_F(Dialect2010Test, TellsOfAColumnThatTheTableLacks) {
 }
 
 TEST_F(Dialect2010Test, SkipsRowsOfReservoirsAndLinksThatItLacks) {
-  const auto scenario = load(reservoirsAndLink, "insert into Res values (9, 'x', 'x', 'x');"
-                                                "insert into ResSubsist values (9, 'x');"
-                                                "insert into LinksDados values (9, '', '', 'x'), (3, '', '', 'x');");
+  const auto scenario =
+      load("insert into junction (id) values (1), (2); insert into link (id, up, down, loss) values (3, 1, 2, 0.5);",
+           "insert into Res values (9, 'x', 'x', 'x');"
+           "insert into ResSubsist values (9, 'x');"
+           "insert into LinksDados values (9, '', '', 'x'), (3, '', '', 'x');");
   EXPECT_EQ(scenario->getElements().size(), 3U);
   EXPECT_EQ(valuesOf(*find<Link>(scenario, 3), SerieType::LinkLoss).at(0), 50.0);
-}
-
-TEST_F(Dialect2010Test, ConvertsVolumesAndCurvesInTheirOwnOrder) {
-  const auto textOf = [](const std::string& table, const std::string& values) {
-    try {
-      load(reservoirsAndLink, "delete from Res; insert into " + table + " values (1, " + values + ")");
-    } catch (const FieldError& error) {
-      return error.text().value_or("");
-    }
-    return std::string();
-  };
-  EXPECT_EQ(textOf("Res", "'maximum', 'minimum', 'initial'"), "initial");
-  EXPECT_EQ(textOf("ResAVN", "'area', 'volume', 'level'"), "level");
 }
 
 TEST_F(Dialect2013Test, RefusesAnIdOfTwoNodes) {

@@ -38,20 +38,16 @@ TEST_F(ScenarioTest, HoldsNodesAndLinksUnderIdsOfTheirOwn) {
   EXPECT_EQ(network.scenario->getSceneryCheck()->getScenario(), scenario);
 }
 
-TEST_F(ScenarioTest, LosesALinkWithItsPlacesAtItsNodes) {
+TEST_F(ScenarioTest, LosesALinkWithItsPlacesAndANodeWithItsLinksAndSettings) {
   CoreServiceManager::deleteElementNoDatabase(scenario, link1);
   CoreServiceManager::deleteElementNoDatabase(scenario, link1);
   EXPECT_THAT(scenario->getElements(), ElementsAre(node1, node2, link2));
   EXPECT_THAT(node1->getDownstreamLinks(), IsEmpty());
-  EXPECT_THAT(node2->getUpstreamLinks(), IsEmpty());
-  EXPECT_THAT(node1->getUpstreamLinks(), ElementsAre(link2));
   EXPECT_NE(scenario->getSettingsManager().getSettings(1), nullptr) << "settings are those of the node 1";
-}
-
-TEST_F(ScenarioTest, LosesANodeWithItsLinksAndSettings) {
   CoreServiceManager::deleteElementNoDatabase(scenario, node1);
   EXPECT_THAT(scenario->getElements(), ElementsAre(node2));
   EXPECT_THAT(node2->getUpstreamLinks(), IsEmpty());
+  EXPECT_THAT(node2->getDownstreamLinks(), IsEmpty());
   EXPECT_EQ(scenario->getSettingsManager().getSettings(1), nullptr);
 }
 

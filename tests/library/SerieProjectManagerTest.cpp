@@ -14,15 +14,13 @@ using Load = void (*)(const Interval&, const Elements&);
 
 constexpr SerieType flow = SerieType::NaturalAffluentFlow;
 
-void loadProfile2010(const Interval& interval, const Elements& elements) {
+const Load profile2010 = [](const auto& interval, const auto& elements) {
   Lagomare2010::SerieProjectManager::load(flow, interval, "Perfil", elements, "Pto", "U", "where EstHidr = 1");
-}
-void loadSequence2010(const Interval& interval, const Elements& elements) {
-  Lagomare2010::SerieProjectManager::loadNatFlow(interval, elements);
-}
-void loadSequence2013(const Interval& interval, const Elements& elements) {
+};
+const Load sequence2010 = Lagomare2010::SerieProjectManager::loadNatFlow;
+const Load sequence2013 = [](const auto& interval, const auto& elements) {
   Lagomare2013::SerieProjectManager::load(flow, interval, "LgmVazNat", elements, "");
-}
+};
 
 /// Lays an answer on two junctions, whose flows hold 9.0, over fourteen months.
 class SerieProjectManagerTest : public WorkingDirectoryTest, public WithParamInterface<Load> {
@@ -35,9 +33,9 @@ protected:
     LagomareProjectManager::getInstance("")->setApiExecutable(":");
   }
 
-  void lay(const std::string& answer, Load load = GetParam()) {
+  void lay(const std::string& answer) {
     write("query-result.txt", answer);
-    load(interval, elements);
+    GetParam()(interval, elements);
   }
 
   [[nodiscard]] std::vector<double> values(unsigned id) const { return valuesOf(*elements.at(id), flow); }
@@ -55,10 +53,10 @@ protected:
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Layouts, SerieProjectManagerTest, Values(loadProfile2010, loadSequence2010, loadSequence2013));
+INSTANTIATE_TEST_SUITE_P(Layouts, SerieProjectManagerTest, Values(profile2010, sequence2010, sequence2013));
 
 TEST_P(SerieProjectManagerTest, LaysRowsOnMonths) {
-  const bool isProfile = GetParam() == loadProfile2010;
+  const bool isProfile = GetParam() == profile2010;
   lay(rows(20));
   EXPECT_THAT(values(1), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, isProfile ? 1 : 13, isProfile ? 2 : 14));
   EXPECT_THAT(values(2), Each(9.0));
@@ -66,7 +64,7 @@ TEST_P(SerieProjectManagerTest, LaysRowsOnMonths) {
 
 TEST_P(SerieProjectManagerTest, KeepsWhatTheSeriesHeldWhereRowsAreTooFew) {
   lay(rows(1));
-  EXPECT_THAT(values(1), ElementsAre(1, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, GetParam() == loadProfile2010 ? 1 : 9, 9));
+  EXPECT_THAT(values(1), ElementsAre(1, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, GetParam() == profile2010 ? 1 : 9, 9));
 }
 
 TEST_P(SerieProjectManagerTest, ConvertsAllRowsOfAnIdBeforeItLaysOne) {

@@ -17,7 +17,8 @@ protected:
 
 } // namespace
 
-TEST_F(SerieTest, KeepsValuesWrittenBeforeItsIntervalIsSetAndOutsideIt) {
+TEST_F(SerieTest, KeepsWhatWasWrittenAnywhereAndReadsZeroElsewhere) {
+  EXPECT_EQ(at(2000, 6), 0.0);
   serie.setValue(Date(2000, 6, 1), 6.0);
   serie.setValue(Date(1999, 1, 1), 99.0);
   serie.setValue(Date(2003, 1, 1), 3.0);
@@ -26,13 +27,7 @@ TEST_F(SerieTest, KeepsValuesWrittenBeforeItsIntervalIsSetAndOutsideIt) {
   EXPECT_EQ(serie.getValue(Date(2000, 6, 30)), 6.0) << "a date stands for its month";
   EXPECT_EQ(at(1999, 1), 99.0);
   EXPECT_EQ(at(2003, 1), 3.0);
-}
-
-TEST_F(SerieTest, ReadsZeroWhereNothingWasWritten) {
-  EXPECT_EQ(at(2000, 1), 0.0);
-  serie.setValue(Date(2000, 6, 1), 6.0);
-  for (const auto& [year, month] : {std::pair(1U, 1), {2000U, 5}, {2000U, 7}, {9999U, 12}})
-    EXPECT_EQ(at(year, static_cast<unsigned char>(month)), 0.0);
+  EXPECT_THAT((std::vector{at(1, 1), at(1998, 12), at(2000, 5), at(2003, 2), at(9999, 12)}), Each(0.0));
 }
 
 TEST_F(SerieTest, IsFilledOverAnInterval) {

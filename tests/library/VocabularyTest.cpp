@@ -30,20 +30,20 @@ std::string listOf(const Values& values) {
   return text;
 }
 
-/// The ids, ascending.
-template <typename Values>
-std::string idsOf(const Values& values) {
+/// The ids, ascending; idOf tells that of a value.
+template <typename Values, typename IdOf>
+std::string idsOf(const Values& values, IdOf idOf) {
   std::multiset<int> ids;
   for (const auto& value : values)
-    if constexpr (std::is_enum_v<typename Values::value_type>)
-      ids.insert(static_cast<int>(value));
-    else
-      ids.insert(value->id);
+    ids.insert(idOf(value));
   std::string text;
   for (const int id : ids)
     text += (text.empty() ? "" : " ") + std::to_string(id);
   return text;
 }
+
+const auto groupIds = [](const auto& group) { return idsOf(group, [](auto type) { return static_cast<int>(type); }); };
+const auto valueIds = [](const auto& values) { return idsOf(values, [](const auto& value) { return value->id; }); };
 
 } // namespace
 
@@ -61,17 +61,18 @@ TEST(VocabularyTest, NamesKindsOfElements) {
 }
 
 TEST(VocabularyTest, GroupsKindsOfElementsWithoutTheGenericOnes) {
-  EXPECT_EQ(idsOf(reservoirAndDemandTypes), "0 2 3 4 5 6");
-  EXPECT_EQ(idsOf(demandTypes), "2 3 4 5 6");
-  EXPECT_EQ(idsOf(consumptiveDemandTypes), "2 3 4 5");
-  EXPECT_EQ(idsOf(reservoirTypes) + ", " + idsOf(junctionTypes) + ", " + idsOf(basinTypes), "0, 7, 8");
-  EXPECT_EQ(idsOf(nodeTypes), "0 2 3 4 5 6 7 8");
-  EXPECT_EQ(idsOf(linkTypes), "10 11");
-  for (const std::string& ids : {idsOf(allElementTypes), idsOf(concreteKindValues), idsOf(concreteKindValuesCopy)})
+  EXPECT_EQ(groupIds(reservoirAndDemandTypes), "0 2 3 4 5 6");
+  EXPECT_EQ(groupIds(demandTypes), "2 3 4 5 6");
+  EXPECT_EQ(groupIds(consumptiveDemandTypes), "2 3 4 5");
+  EXPECT_EQ(groupIds(reservoirTypes) + ", " + groupIds(junctionTypes) + ", " + groupIds(basinTypes), "0, 7, 8");
+  EXPECT_EQ(groupIds(nodeTypes), "0 2 3 4 5 6 7 8");
+  EXPECT_EQ(groupIds(linkTypes), "10 11");
+  for (const std::string& ids :
+       {groupIds(allElementTypes), valueIds(concreteKindValues), valueIds(concreteKindValuesCopy)})
     EXPECT_EQ(ids, "0 2 3 4 5 6 7 8 10 11");
-  EXPECT_EQ(idsOf(linkKindValues), "10 11");
-  EXPECT_EQ(idsOf(genericKindValues), "0 1 7 9");
-  EXPECT_EQ(idsOf(allKindValues), "0 1 2 3 4 5 6 7 8 9 10 11");
+  EXPECT_EQ(valueIds(linkKindValues), "10 11");
+  EXPECT_EQ(valueIds(genericKindValues), "0 1 7 9");
+  EXPECT_EQ(valueIds(allKindValues), "0 1 2 3 4 5 6 7 8 9 10 11");
 }
 
 TEST(VocabularyTest, ListsKindsOfSeriesInTheOrderOfDisplay) {
@@ -97,7 +98,7 @@ TEST(VocabularyTest, HasSeventeenUnitsTwoOfThemUnderOneId) {
              KG(), Liters(), LitersBySeconds()),
       "0 adimensional, 1 horas, 2 horas/dia, 3 m³/s, 4 hm³, 5 mm, 6 m, 7 m³, 8 km², 9 R$, 10 %, 11 cm, 12 cº, 13 Mg, "
       "13 Kg, 15 Liters, 16 LitersBySeconds");
-  EXPECT_EQ(idsOf(unitValues), "0 1 2 3 4 5 6 7 8 9 10 11 12 13 13 15 16");
+  EXPECT_EQ(valueIds(unitValues), "0 1 2 3 4 5 6 7 8 9 10 11 12 13 13 15 16");
   EXPECT_THAT(EnumUnitFactoryByType::makeUnit(Unit::KG).name, AnyOf("Kg", "Mg"));
   EXPECT_THROW(static_cast<void>(EnumUnitFactoryByType::makeUnit(static_cast<Unit>(14))), std::invalid_argument);
   EXPECT_EQ(releaseLabel, "Vazão liberada(m³/s)");
