@@ -28,7 +28,8 @@ std::string readAnswer(const std::string& file) {
   do {
     const std::size_t length = text.size();
     text.resize(length + chunk);
-    got = answer.rdbuf()->sgetn(&text[length], static_cast<std::streamsize>(chunk));
+    answer.read(&text[length], static_cast<std::streamsize>(chunk));
+    got = answer.gcount();
     text.resize(length + static_cast<std::size_t>(got));
   } while (got > 0);
   return text;

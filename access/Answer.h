@@ -12,7 +12,10 @@ namespace Lagomare {
 // each line no data. Lines end with a line feed, the last one may lack it; an empty line, or one that holds a
 // carriage return alone, is skipped.
 
-/// The whole file; empty where it cannot be opened.
+// The core's StringUtils::split must give an empty field between two blanks, as the keys and values of a ValueResult
+// are found without it.
+
+/// The whole file; empty where it cannot be opened or read.
 [[nodiscard]] LAGOMARE_EXPORT std::string readAnswer(const std::string& file);
 
 /// The rows by id. Throws InvalidField or FieldOutOfRange ("stoul") for a line whose first field is no id,

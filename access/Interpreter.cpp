@@ -3,7 +3,9 @@
 #include <cstdlib>
 
 #ifdef _WIN32
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 void Lagomare::runScript(const std::string& scriptFile) {

@@ -16,7 +16,7 @@ namespace Lagomare {
 [[nodiscard]] LAGOMARE_EXPORT std::uint32_t toUnsigned(std::string_view text);
 
 /// As std::stod: decimal and hexadecimal numbers, infinities and NaN. Numbers too small for full precision
-/// (subnormal ones) are out of range. what() of the errors is "stod".
+/// (subnormal ones, even where they are exact) are out of range. what() of the errors is "stod".
 [[nodiscard]] LAGOMARE_EXPORT double toDouble(std::string_view text);
 
 /// toDouble, truncated toward zero; FieldOutOfRange "stod" where the result does not fit.

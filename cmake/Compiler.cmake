@@ -1,7 +1,7 @@
 # Warnings and sanitizers, for every target of this project and for none that a host adds.
 add_library(lagomare-compiler INTERFACE)
 if(MSVC)
-  target_compile_options(lagomare-compiler INTERFACE /W4 /utf-8 $<$<BOOL:${LAGOMARE_WERROR}>:/WX>)
+  target_compile_options(lagomare-compiler INTERFACE /W4 $<$<BOOL:${LAGOMARE_WERROR}>:/WX>)
 else()
   target_compile_options(lagomare-compiler INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor

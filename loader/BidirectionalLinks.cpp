@@ -24,7 +24,7 @@ Reservoirs reservoirsOf(const Scenario& scenario) {
 
 bool leadsToReservoir(const Link& link) {
   const auto node = link.downstream.lock();
-  return node && reservoirTypes.count(node->getElementType()->type()) != 0;
+  return node && reservoirTypes.count(static_cast<ElementType>(node->getElementType()->id)) != 0;
 }
 
 /// The links between reservoirs that are no part of a pair yet, by their two ends, in their order. Kept so that no
@@ -40,11 +40,11 @@ public:
 
   /// The first one, or an empty pointer.
   LinkPtr take(unsigned upstreamId, unsigned downstreamId) {
-    auto& links = waiting_[{upstreamId, downstreamId}];
-    if (links.empty())
+    const auto links = waiting_.find({upstreamId, downstreamId});
+    if (links == waiting_.end() || links->second.empty())
       return nullptr;
-    auto link = links.front();
-    links.pop_front();
+    auto link = links->second.front();
+    links->second.pop_front();
     return link;
   }
 
@@ -78,11 +78,12 @@ std::vector<LinkPtr> foldPairs(const std::shared_ptr<Scenario>& scenario) {
 void LagomareProjectLoader::transformBirectionalLinks(std::shared_ptr<Scenario> scenario) {
   std::map<std::shared_ptr<Node>, std::set<unsigned>> hiddenLinks; // by upstream node: ids that a node has too
   for (const auto& link : foldPairs(scenario)) {
+    const auto upstream = link->upstream.lock();
     CoreServiceManager::changeLinkTypeNoDatabase(link, ElementType::ArtificialLink, scenario);
     if (const auto changed = std::dynamic_pointer_cast<Link>(scenario->getElement(link->bdId)))
       changed->setIsBidirectional(true);
     else
-      hiddenLinks[link->upstream.lock()].insert(link->bdId);
+      hiddenLinks[upstream].insert(link->bdId);
   }
   for (const auto& [upstream, ids] : hiddenLinks)
     for (const auto& link : upstream->getDownstreamLinks())

@@ -8,7 +8,6 @@ struct ImportStatus {
   const char* message; ///< Portuguese, UTF-8, static
 
   [[nodiscard]] constexpr bool operator==(const ImportStatus& other) const { return code == other.code; }
-  [[nodiscard]] constexpr bool operator!=(const ImportStatus& other) const { return code != other.code; }
 };
 
 constexpr ImportStatus importCancelled{0, "Importação cancelada"};

@@ -15,7 +15,7 @@ SceneryProjectManagerRet import(const std::string& executablePath, const std::st
   LagomareProjectManager::getInstance(databaseFilename);
   LagomareProjectManager::getInstance()->setApiExecutable(executablePath);
   auto result = load(progress);
-  if (result.status == importSucceeded.code)
+  if (ImportStatus{result.status, result.message.c_str()} == importSucceeded)
     LagomareProjectLoader::transformBirectionalLinks(result.scenario);
   LagomareProjectManager::cleanInstance();
   return result;

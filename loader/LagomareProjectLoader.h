@@ -34,6 +34,6 @@ public:
   /// Folds each pair of opposite links between two reservoirs into one bidirectional link of kind 10: the one
   /// that leaves the reservoir met first stays, and nothing of the other is carried over. Between two
   /// reservoirs with several links the pairs form in the links' order; a link without a partner stays as it
-  /// is, and so does one from a reservoir to itself. The time grows in proportion to the number of links.
+  /// is, and so does one from a reservoir to itself. The time grows with the number of links, not with its square.
   static void transformBirectionalLinks(std::shared_ptr<Scenario> scenario);
 };

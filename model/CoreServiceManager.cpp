@@ -16,9 +16,8 @@ void detach(const std::shared_ptr<Link>& link) {
     node->removeUpstream(link);
 }
 
-void deleteLinks(const std::shared_ptr<Scenario>& scenario, const std::list<std::shared_ptr<Link>>& links) {
-  while (!links.empty()) {
-    const auto link = links.front();
+void deleteLinks(const std::shared_ptr<Scenario>& scenario, const std::list<std::shared_ptr<Link>> links) {
+  for (const auto& link : links) {
     scenario->removeElement(link);
     detach(link);
   }
@@ -28,7 +27,7 @@ std::shared_ptr<Link> makeSuccessor(const Link& link, ElementType type) {
   auto successor = std::make_shared<Link>(EnumElementTypeFactory::makeElementType(type));
   successor->bdId = link.bdId;
   successor->setName(link.getName());
-  successor->setSeriesInput(link.getSeriesInput());
+  successor->shareSeries(link);
   successor->setIsBidirectional(link.getIsBidirectional());
   successor->upstream = link.upstream;
   successor->downstream = link.downstream;

@@ -17,8 +17,12 @@ std::shared_ptr<Demand> Demand::copy() const {
   demand->hostValues = hostValues;
   demand->hostSecondValues = hostSecondValues;
   demand->hostState = hostState;
-  for (const auto& [type, serie] : getSeriesInput()->all())
-    demand->getSeriesInput()->set(type, std::make_shared<Serie>(*serie));
+  for (std::size_t window = 0; window < getWindows().size(); ++window) {
+    if (window > 0)
+      demand->addWindow(std::make_shared<Container<SerieType>>());
+    for (const auto& [type, serie] : getWindows()[window]->all())
+      demand->getWindows()[window]->set(type, std::make_shared<Serie>(*serie));
+  }
   return demand;
 }
 

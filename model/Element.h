@@ -25,6 +25,10 @@ public:
   /// The series given for the first execution window, shared; never empty.
   [[nodiscard]] const std::shared_ptr<Container<SerieType>>& getSeriesInput() const { return windows_.front(); }
   void setSeriesInput(std::shared_ptr<Container<SerieType>> series) { windows_.front() = std::move(series); }
+  /// Takes the series of all windows of another element in place of its own; both share them then.
+  void shareSeries(const Element& other) { windows_ = other.windows_; }
+  /// The series by window, shared.
+  [[nodiscard]] const std::vector<std::shared_ptr<Container<SerieType>>>& getWindows() const { return windows_; }
   /// Adds the series of a further execution window.
   void addWindow(std::shared_ptr<Container<SerieType>> series) { windows_.push_back(std::move(series)); }
   /// The series of a window, from 0, in ascending order of kind. Throws std::out_of_range

@@ -11,9 +11,15 @@ class OrderedIndex {
 public:
   /// False, and nothing changed, where the key is taken.
   bool add(const Key& key, Value value) {
-    if (places_.count(key) != 0)
+    const auto [place, isNew] = places_.try_emplace(key, values_.end());
+    if (!isNew)
       return false;
-    places_.emplace(key, values_.insert(values_.end(), std::move(value)));
+    try {
+      place->second = values_.insert(values_.end(), std::move(value));
+    } catch (...) {
+      places_.erase(place);
+      throw;
+    }
     return true;
   }
 
@@ -29,10 +35,10 @@ public:
     const auto place = places_.find(oldKey);
     if (place == places_.end() || (oldKey != newKey && places_.count(newKey) != 0))
       return false;
-    const auto position = place->second;
-    places_.erase(place);
-    places_.emplace(newKey, position);
-    *position = std::move(value);
+    *place->second = std::move(value);
+    auto entry = places_.extract(place);
+    entry.key() = newKey;
+    places_.insert(std::move(entry));
     return true;
   }
 

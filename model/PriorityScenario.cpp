@@ -5,6 +5,19 @@
 #include "model/PriorityReservoirSettings.h"
 #include "model/SceneryCheckFactory.h"
 
+namespace {
+
+/// Empty for a kind that has no settings.
+std::shared_ptr<Settings> makeSettings(ElementType type, unsigned numOfStates) {
+  if (reservoirTypes.count(type) != 0)
+    return std::make_shared<PriorityReservoirSettings>(numOfStates);
+  if (demandTypes.count(type) != 0)
+    return std::make_shared<PriorityDemandSettings>(numOfStates);
+  return nullptr;
+}
+
+} // namespace
+
 PriorityScenario::PriorityScenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned id,
                                    const Interval& interval, const std::string& name)
     : Scenario(executionMethod, id, interval, name),
@@ -13,12 +26,8 @@ PriorityScenario::PriorityScenario(const std::shared_ptr<ExecutionMethod>& execu
 
 void PriorityScenario::addNode(const std::shared_ptr<Node>& node, unsigned window, unsigned id) {
   Scenario::addNode(node, window, id);
-  const auto type = node->getElementType()->type();
-  const unsigned states = hydrologicalStates_->getNumOfStates();
-  if (reservoirTypes.count(type) != 0)
-    getSettingsManager().setSettings(id, std::make_shared<PriorityReservoirSettings>(states));
-  else if (demandTypes.count(type) != 0)
-    getSettingsManager().setSettings(id, std::make_shared<PriorityDemandSettings>(states));
+  if (auto settings = makeSettings(node->getElementType()->type(), hydrologicalStates_->getNumOfStates()))
+    getSettingsManager().setSettings(id, std::move(settings));
 }
 
 const std::shared_ptr<SceneryCheck>& PriorityScenario::getSceneryCheck() {

@@ -40,7 +40,7 @@ public:
   /// std::out_of_range "Invalid window index" otherwise. Throws std::invalid_argument, naming the id, where
   /// the scenario holds such a link.
   virtual void addLink(const std::shared_ptr<Link>& link, unsigned window);
-  /// Puts a node in under the id. Errors as for links.
+  /// Puts a node in under the id, which is its own database id. Errors as for links.
   virtual void addNode(const std::shared_ptr<Node>& node, unsigned window, unsigned id);
 
   /// Takes out this very element; false where the scenario does not hold it.

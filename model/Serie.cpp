@@ -27,13 +27,16 @@ void Serie::fill(double value, const Interval& interval) {
   std::fill(first, first + static_cast<std::ptrdiff_t>(lastStep - firstStep + 1), value);
 }
 
-/// Widens the values, with 0.0, until they hold both steps.
+/// Widens the values, with 0.0, until they hold both steps. To the front they at least double, so that writing
+/// backwards in time costs no more than forwards.
 void Serie::cover(std::size_t firstStep, std::size_t lastStep) {
   if (values_.empty())
     firstStep_ = firstStep;
   if (firstStep < firstStep_) {
-    values_.insert(values_.begin(), firstStep_ - firstStep, 0.0);
-    firstStep_ = firstStep;
+    const std::size_t room = std::min(values_.size(), firstStep_);
+    const std::size_t steps = std::max(firstStep_ - firstStep, room);
+    values_.insert(values_.begin(), steps, 0.0);
+    firstStep_ -= steps;
   }
   if (lastStep - firstStep_ >= values_.size())
     values_.resize(lastStep - firstStep_ + 1, 0.0);

@@ -1,5 +1,6 @@
 #include "elements/2013/ElementProjectManager.h"
 
+#include "access/LagomareProjectManager.h"
 #include "elements/2013/SerieProjectManager.h"
 #include "elements/common/Elements.h"
 #include "model/Scenario.h"
@@ -41,6 +42,8 @@ void ElementProjectManager::loadNatFlowSerie() {
   SerieProjectManager::load(SerieType::NaturalAffluentFlow, scenario->getInterval(), natFlowTable, elements, "");
 }
 
-std::string ElementProjectManager::valuesOf(const std::string& table) { return "select NumPto, Valor from " + table; }
+std::string ElementProjectManager::valuesOf(const std::string& table) {
+  return "select " + LagomareProjectManager::elementBdIdField1 + ", Valor from " + table;
+}
 
 } // namespace Lagomare2013

@@ -6,7 +6,7 @@ namespace Lagomare {
 
 void requireKind(const ElementMap& elements, ElementType type, const std::string& loader) {
   for (const auto& entry : elements)
-    if (!entry.second || entry.second->getElementType()->type() != type)
+    if (!entry.second || static_cast<ElementType>(entry.second->getElementType()->id) != type)
       throw std::invalid_argument(loader + "::validElement(): invalid element type");
 }
 

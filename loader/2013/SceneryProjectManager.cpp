@@ -45,8 +45,9 @@ std::shared_ptr<Scenario> SceneryProjectManager::makeSceneryInstance(const Inter
 Interval SceneryProjectManager::loadInterval(const std::vector<std::vector<std::string>>& rows) {
   const Row& settings = rows.at(0);
   // A time of day may follow the date.
-  const auto parts = StringUtils::split(textAt(settings, startColumn), ' ');
-  const Date start = Date::fromString(parts.front(), "%d/%m/%Y");
+  const std::string& text = textAt(settings, startColumn);
+  const auto parts = StringUtils::split(text, ' ');
+  const Date start = Date::fromString(parts.size() < 2 ? text : parts.front(), "%d/%m/%Y");
   return makeInterval(firstDayOf(start.getYear(), start.getMonth()), unsignedAt(settings, durationColumn));
 }
 

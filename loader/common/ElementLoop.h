@@ -10,23 +10,24 @@
 
 namespace Lagomare {
 
-/// Throws std::length_error where the series of so many elements, over the scenario's interval and in each of its
-/// hydrological states, cannot be meant: more than 2^30 values (8 GiB).
-void requireReasonableSize(std::size_t elements, Scenario& scenario);
+/// Throws std::length_error where the series of so many elements of a kind, over the scenario's interval and for
+/// demands and reservoirs in each hydrological state too, cannot be meant: more than 2^30 values (8 GiB).
+void requireReasonableSize(std::size_t elements, ElementType kind, const Scenario& scenario);
 
 /// Loads the elements of each kind in turn, under one progress bar, with the ids and the loaders that a dialect's two
 /// factories make. All ids are asked for before the first loader runs. False where the host asked to stop: the loaders
 /// that had not run are skipped.
 template <typename BdIdFactory, typename LoaderFactory>
-bool loadKinds(const std::vector<ElementType>& kinds, const std::shared_ptr<Scenario>& scenario,
-               const std::function<bool(long, long)>& progress) {
+[[nodiscard]] bool loadKinds(const std::vector<ElementType>& kinds, const std::shared_ptr<Scenario>& scenario,
+                             const std::function<bool(long, long)>& progress) {
   std::vector<decltype(LoaderFactory::make(kinds.front(), ElementMap(), scenario))> loaders;
   long steps = 0;
   for (const ElementType kind : kinds) {
     ElementMap elements;
-    for (const unsigned id : BdIdFactory::makeVectorOfBdIds(kind))
+    const auto ids = BdIdFactory::makeVectorOfBdIds(kind);
+    requireReasonableSize(ids.size(), kind, *scenario);
+    for (const unsigned id : ids)
       elements[id] = ElementFactory::make(kind);
-    requireReasonableSize(elements.size(), *scenario);
     loaders.push_back(LoaderFactory::make(kind, elements, scenario));
     steps += loaders.back()->numOfLambdas();
   }

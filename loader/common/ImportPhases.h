@@ -11,8 +11,9 @@ namespace Lagomare {
 /// wantsStates(row) tells whether the settings ask for hydrological states, and the tactical column refuses the project
 /// where it is not 0. The scenario is made, and counted, before that is known.
 template <typename Scenery, typename WantsStates>
-SceneryProjectManagerRet importScenario(const QueryResult& settings, WantsStates wantsStates,
-                                        std::size_t tacticalColumn, const std::function<bool(long, long)>& progress) {
+[[nodiscard]] SceneryProjectManagerRet importScenario(const QueryResult& settings, WantsStates wantsStates,
+                                                      std::size_t tacticalColumn,
+                                                      const std::function<bool(long, long)>& progress) {
   if (settings.empty())
     return {importInvalid, nullptr};
   const auto& rows = settings.begin()->second;

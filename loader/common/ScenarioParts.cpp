@@ -18,7 +18,7 @@ constexpr std::uint32_t lastYear = 9999;
 } // namespace
 
 Interval makeInterval(Date start, std::uint32_t durationYears) {
-  if (durationYears > lastYear - start.getYear())
+  if (durationYears > lastYear || start.getYear() + durationYears > lastYear)
     throw std::invalid_argument("SceneryProjectManager::loadInterval: a duration of " + std::to_string(durationYears) +
                                 " years from " + std::to_string(start.getYear()) + " leads past the year 9999");
   Date end = start;
