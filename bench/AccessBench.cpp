@@ -30,7 +30,8 @@ void writeSqlite() {
 }
 
 double query(const Setting& setting, const std::string& database) {
-  return runCommand({setting.programs / "lagomare-query", database, "select EstHidr, Valor from FrontEH", "0"}, "log.txt")
+  return runCommand({setting.programs / "lagomare-query", database, "select EstHidr, Valor from FrontEH", "0"},
+                    "log.txt")
       .seconds;
 }
 

@@ -14,7 +14,9 @@ namespace LagomareBench {
 
 namespace {
 
-double seconds(const timeval& time) { return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6; }
+double seconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
 
 double seconds(const rusage& usage) { return seconds(usage.ru_utime) + seconds(usage.ru_stime); }
 

@@ -137,10 +137,12 @@ double import(const Setting& setting, const BasinSize& size) {
 void addGrowthBenches(Table& table, const Setting& setting) {
   addGrowth(table, "answer file → `QueryResult`, per row of 6,000 ×", nanoseconds, 6000, parse);
   addGrowth(table, "answer file → `ValueResult`, per row of 6,000 ×", nanoseconds, 6000, parseValues);
-  addGrowth(table, "import, per node of 50 × with 120 months, 3 states", milliseconds, 50,
-            [&setting](unsigned nodes) { return import(setting, {nodes, 10, 3}); });
-  addGrowth(table, "import of 20 nodes with 12 months, per state of 2 ×", milliseconds, 2,
-            [&setting](unsigned states) { return import(setting, {20, 1, states}); });
+  addGrowth(table, "import, per node of 50 × with 120 months, 3 states", milliseconds, 50, [&setting](unsigned nodes) {
+    return import(setting, {nodes, 10, 3});
+  });
+  addGrowth(table, "import of 20 nodes with 12 months, per state of 2 ×", milliseconds, 2, [&setting](unsigned states) {
+    return import(setting, {20, 1, states});
+  });
   addGrowth(table, "fold of two-way links at one reservoir, per link of 1,000 ×", nanoseconds, 1000, fold);
   addGrowth(table, "deletion of the links of one reservoir, per link of 1,000 ×", nanoseconds, 1000, deleteLinks);
   addGrowth(table, "deletion of all elements, per link of 1,000 ×", nanoseconds, 1000, deleteNodes);

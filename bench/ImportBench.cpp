@@ -43,7 +43,8 @@ void addImportBenches(Table& table, const Setting& setting) {
   Work& time = table.add("whole import, " + basin + " (floor: read in the process)", wholeSeconds);
   Work& memory = table.add("peak memory of the same", megabytes);
   time.setCheck([&setting, database] { requireEqual(setting, database); });
-  for (const auto& [contender, way] : {std::pair("plain", "plain"), std::pair("ours", "ours"), std::pair("floor", "in-process")})
+  for (const auto& [contender, way] :
+       {std::pair("plain", "plain"), std::pair("ours", "ours"), std::pair("floor", "in-process")})
     time.add(contender, 1, [&setting, &memory, contender = contender, way = way, database] {
       const Outcome outcome = importOnce(setting, way, database);
       memory.record(contender, outcome.peakBytes);

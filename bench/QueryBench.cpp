@@ -93,11 +93,12 @@ std::function<double()> repeated(unsigned times, const std::function<void()>& ru
 void addSmallQuery(Table& table, const Setting& setting) {
   constexpr unsigned times = 50;
   std::ofstream(script) << (setting.programs / "lagomare-query").string() << " \"" << database
-                              << "\" \"select 1, 2\" 0\n";
+                        << "\" \"select 1, 2\" 0\n";
   Work& work = table.add("one small query through the script (plain: `sh script.bat`; ours: `. ./script.bat`; floor: "
                          "start of `true`)",
                          milliseconds);
-  work.add("plain", times, repeated(times, [] { [[maybe_unused]] const int code = std::system(("sh " + script).c_str()); }));
+  work.add("plain", times,
+           repeated(times, [] { [[maybe_unused]] const int code = std::system(("sh " + script).c_str()); }));
   work.add("ours", times, repeated(times, [] { runScript(script); }));
   work.add("floor", times, repeated(times, [] { runCommand({"true"}, "/dev/null"); }));
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "bench/plain/PlainImport.h"
 #include "bench/plain/PlainRows.h"
 #include "bench/plain/PlainSerie.h"
-#include "bench/plain/PlainImport.h"
 
 namespace Plain {
 

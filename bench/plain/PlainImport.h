@@ -77,7 +77,8 @@ private:
         source_.rows("select FORMAT(DataHoraIni, 'dd/mm/yyyy'), Duracao, OptCalc, TipoSimul from Tk_Gerais");
     const Row& settings = rows.begin()->second.front();
     const auto date = split(settings.at(0), '/');
-    scenario_.months = {std::stoi(date.at(2)), std::stoi(date.at(1)), 12 * static_cast<unsigned>(std::stoul(settings.at(1)))};
+    scenario_.months = {std::stoi(date.at(2)), std::stoi(date.at(1)),
+                        12 * static_cast<unsigned>(std::stoul(settings.at(1)))};
     if (std::stoul(settings.at(2)) != 0)
       scenario_.states = source_.rows("select * from LgmFrontEH").size() + 1;
   }
@@ -115,7 +116,8 @@ private:
   }
 
   void loadReservoirs(Elements& elements) {
-    const auto rows = source_.rows("select NumPonto, Nome, Coord_X, Coord_Y, VolMax, VolMin, VolIni, Subsist from Tk_Res_FEA");
+    const auto rows =
+        source_.rows("select NumPonto, Nome, Coord_X, Coord_Y, VolMax, VolMin, VolIni, Subsist from Tk_Res_FEA");
     loadNodes(elements, rows);
     for (const auto& [id, rowsOfId] : rows) {
       const Row& row = rowsOfId.front();
@@ -137,7 +139,8 @@ private:
       std::vector<double> evaporation;
       std::vector<double> precipitation;
       for (unsigned step = 0; step < scenario_.months.count; ++step) {
-        const double net = std::stod(rows.at((step + static_cast<unsigned>(scenario_.months.firstMonth) - 1) % 12).at(1));
+        const double net =
+            std::stod(rows.at((step + static_cast<unsigned>(scenario_.months.firstMonth) - 1) % 12).at(1));
         evaporation.push_back(net >= 0.0 ? net : 0.0);
         precipitation.push_back(net >= 0.0 ? 0.0 : -net);
       }
