@@ -2,7 +2,6 @@
 
 #include "access/FieldError.h"
 #include "access/Numbers.h"
-#include "model/StringUtils.h"
 
 #include <filesystem>
 #include <fstream>
@@ -12,6 +11,17 @@ namespace Lagomare {
 namespace {
 
 constexpr std::size_t chunk = std::size_t{1} << 16U;
+
+/// All fields but the last, which is never built; so many are expected.
+Row fieldsOf(std::string_view line, std::size_t expected) {
+  Row fields;
+  fields.reserve(expected);
+  for (std::size_t end = line.find(' '); end != std::string_view::npos; end = line.find(' ')) {
+    fields.emplace_back(line.data(), end);
+    line.remove_prefix(end + 1);
+  }
+  return fields;
+}
 
 } // namespace
 
@@ -45,12 +55,11 @@ std::uint32_t keyOf(std::string_view line) {
 QueryResult parseRows(std::string_view text) {
   QueryResult rows;
   auto place = rows.end();
-  std::string line;
-  forEachLine(text, [&](std::string_view lineView) {
-    const std::uint32_t key = keyOf(lineView);
-    line.assign(lineView);
-    Row row = StringUtils::split(line, ' ');
-    row.pop_back();
+  std::size_t fields = 0; // as many as the row before, for all rows of an answer have the same columns
+  forEachLine(text, [&](std::string_view line) {
+    const std::uint32_t key = keyOf(line);
+    Row row = fieldsOf(line, fields);
+    fields = row.size();
     // Ids mostly come in runs, and ascending.
     if (place == rows.end() || place->first != key)
       place = rows.try_emplace(rows.end(), key);

@@ -8,12 +8,10 @@
 
 namespace Lagomare {
 
-// The answer file of a query executable: one line per row, fields parted by single blanks, the last field of
-// each line no data. Lines end with a line feed, the last one may lack it; an empty line, or one that holds a
-// carriage return alone, is skipped.
-
-// The core's StringUtils::split must give an empty field between two blanks, as the keys and values of a ValueResult
-// are found without it.
+// The answer file of a query executable: one line per row, fields parted by single blanks, the last field of each
+// line no data. Lines end with a line feed, the last one may lack it; an empty line, or one that holds a carriage
+// return alone, is skipped. Fields are parted as StringUtils::split of the stand-alone core does it, but in place: two
+// blanks in a row enclose an empty field.
 
 /// The whole file; empty where it cannot be opened or read.
 [[nodiscard]] LAGOMARE_EXPORT std::string readAnswer(const std::string& file);

@@ -2,8 +2,9 @@
 
 #include "access/FieldError.h"
 
+#include <array>
+#include <cfloat>
 #include <charconv>
-#include <cmath>
 #include <limits>
 #include <system_error>
 
@@ -40,14 +41,49 @@ bool isHexadecimal(std::string_view digits) {
   return isDigit(first) || (first >= 'a' && first <= 'f') || (first >= 'A' && first <= 'F');
 }
 
-std::from_chars_result readMagnitude(std::string_view digits, double& magnitude) {
-  const char* const end = digits.data() + digits.size();
-  if (isHexadecimal(digits))
-    return std::from_chars(digits.data() + 2, end, magnitude, std::chars_format::hex);
-  return std::from_chars(digits.data(), end, magnitude);
+/// Digits with at most one point among them, 15 at most. Both the digits as an integer and the power of ten are exact
+/// doubles then, so their quotient is the nearest double. False, and nothing read, for any other text.
+bool readPlainDecimal(std::string_view digits, double& magnitude) {
+  constexpr std::size_t mostDigits = 15;
+  constexpr std::array<double, mostDigits + 1> powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (FLT_EVAL_METHOD != 0 || digits.size() > mostDigits + 1)
+    return false;
+  std::uint64_t integer = 0;
+  std::size_t read = 0;
+  std::size_t decimals = 0;
+  bool hasPoint = false;
+  for (const char c : digits) {
+    if (isDigit(c)) {
+      integer = integer * 10 + static_cast<std::uint64_t>(c - '0');
+      ++read;
+      decimals += hasPoint ? 1U : 0U;
+    } else if (c == '.' && !hasPoint) {
+      hasPoint = true;
+    } else {
+      return false;
+    }
+  }
+  if (read == 0 || read > mostDigits)
+    return false;
+  magnitude = static_cast<double>(integer) / powersOfTen[decimals];
+  return true;
 }
 
 bool isTooSmall(double magnitude) { return magnitude != 0.0 && magnitude < std::numeric_limits<double>::min(); }
+
+/// The errors of from_chars, and out of range where a decimal number is too small for full precision.
+std::errc readMagnitude(std::string_view digits, double& magnitude) {
+  if (readPlainDecimal(digits, magnitude))
+    return {};
+  const char* const end = digits.data() + digits.size();
+  if (isHexadecimal(digits))
+    return std::from_chars(digits.data() + 2, end, magnitude, std::chars_format::hex).ec;
+  if (!digits.empty() && digits.front() == '-') // a second sign
+    return std::errc::invalid_argument;
+  const std::errc error = std::from_chars(digits.data(), end, magnitude).ec;
+  return error == std::errc() && isTooSmall(magnitude) ? std::errc::result_out_of_range : error;
+}
 
 /// Truncation toward zero fits between the limits exclusive of the next integers.
 template <typename Integer>
@@ -76,13 +112,10 @@ std::uint32_t toUnsigned(std::string_view text) {
 double toDouble(std::string_view text) {
   const Unsigned number(text);
   double magnitude = 0.0;
-  // A second sign is no number, though from_chars would take a minus.
-  const bool hasSign = !number.digits.empty() && number.digits.front() == '-';
-  const auto result =
-      hasSign ? std::from_chars_result{nullptr, std::errc::invalid_argument} : readMagnitude(number.digits, magnitude);
-  if (result.ec == std::errc::invalid_argument)
+  const std::errc error = readMagnitude(number.digits, magnitude);
+  if (error == std::errc::invalid_argument)
     throw InvalidField(doubleConversion, std::string(text));
-  if (result.ec == std::errc::result_out_of_range || isTooSmall(magnitude))
+  if (error == std::errc::result_out_of_range)
     throw FieldOutOfRange(doubleConversion, std::string(text));
   return number.isNegative ? -magnitude : magnitude;
 }

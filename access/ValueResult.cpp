@@ -10,9 +10,8 @@ namespace {
 
 constexpr std::size_t valueIndex = 1;
 
-/// The field behind the key; without data where the key is followed by the line's last field alone.
-std::string_view valueOf(std::string_view line) {
-  const std::size_t begin = line.find(' ') + 1;
+/// The field that begins there; without data where that is the line's last field.
+std::string_view valueOf(std::string_view line, std::size_t begin) {
   const std::size_t end = line.find(' ', begin);
   return end == std::string_view::npos ? std::string_view() : line.substr(begin, end - begin);
 }
@@ -32,11 +31,14 @@ double ValueColumn::numberAt(std::size_t row) const {
 }
 
 ValueResult::ValueResult(std::string text) : text_(std::move(text)) {
-  Lagomare::forEachLine(text_, [this](std::string_view line) {
-    const std::uint32_t id = Lagomare::keyOf(line);
+  std::string_view key; // of the last run, with its blank
+  Lagomare::forEachLine(text_, [this, &key](std::string_view line) {
     const auto begin = static_cast<std::size_t>(line.data() - text_.data());
-    if (runs_.empty() || runs_.back().id != id)
-      runs_.push_back({id, begin, begin});
+    if (key.empty() || line.substr(0, key.size()) != key) {
+      const std::uint32_t id = Lagomare::keyOf(line);
+      key = line.substr(0, line.find(' ') + 1);
+      runs_.push_back({id, begin, begin, key.size()});
+    }
     runs_.back().end = begin + line.size();
   });
   const auto byId = [](const Run& a, const Run& b) { return a.id < b.id; };
@@ -46,5 +48,5 @@ ValueResult::ValueResult(std::string text) : text_(std::move(text)) {
 
 void ValueResult::appendValues(const Run& run, ValueColumn& values) const {
   Lagomare::forEachLine(std::string_view(text_).substr(run.begin, run.end - run.begin),
-                        [&values](std::string_view line) { values.texts_.push_back(valueOf(line)); });
+                        [&](std::string_view line) { values.texts_.push_back(valueOf(line, run.valueOffset)); });
 }

@@ -45,11 +45,12 @@ public:
   }
 
 private:
-  /// Lines of one id that follow each other in the text.
+  /// Lines that follow each other in the text and begin alike: with the same id, then a blank.
   struct Run {
     std::uint32_t id;
     std::size_t begin;
     std::size_t end;
+    std::size_t valueOffset; ///< in each of the lines
   };
 
   void appendValues(const Run& run, ValueColumn& values) const;

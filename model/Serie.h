@@ -48,7 +48,13 @@ inline double Serie::getValue(const Date& date) const {
 
 inline void Serie::setValue(const Date& date, double value) {
   const std::size_t step = stepOf(date);
-  if (step - firstStep_ >= values_.size())
+  const std::size_t index = step - firstStep_;
+  if (index < values_.size()) {
+    values_[index] = value;
+  } else if (index == values_.size() && index != 0) { // the next step, as when a series is first filled
+    values_.push_back(value);
+  } else {
     cover(step, step);
-  values_[step - firstStep_] = value;
+    values_[step - firstStep_] = value;
+  }
 }
