@@ -21,6 +21,9 @@ install(FILES
   "${PROJECT_BINARY_DIR}/telu-lagomare-projectConfigVersion.cmake"
   DESTINATION "${package_dir}")
 
+# The installed tree can be moved.
+file(RELATIVE_PATH PKGCONFIG_PREFIX
+  "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
 if(NOT BUILD_SHARED_LIBS)
   set(PKGCONFIG_STATIC_CFLAGS "-DTELU_QT_STATIC_DEFINE -DLAGOMARE_STATIC_DEFINE")
 endif()
