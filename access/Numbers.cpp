@@ -72,16 +72,20 @@ bool readPlainDecimal(std::string_view digits, double& magnitude) {
 
 bool isTooSmall(double magnitude) { return magnitude != 0.0 && magnitude < std::numeric_limits<double>::min(); }
 
-/// The errors of from_chars, and out of range where a decimal number is too small for full precision.
+std::from_chars_result readNumber(std::string_view digits, double& magnitude) {
+  const char* const end = digits.data() + digits.size();
+  if (isHexadecimal(digits))
+    return std::from_chars(digits.data() + 2, end, magnitude, std::chars_format::hex);
+  if (!digits.empty() && digits.front() == '-') // a second sign
+    return {digits.data(), std::errc::invalid_argument};
+  return std::from_chars(digits.data(), end, magnitude);
+}
+
+/// The errors of from_chars, and out of range where the number is too small for full precision.
 std::errc readMagnitude(std::string_view digits, double& magnitude) {
   if (readPlainDecimal(digits, magnitude))
     return {};
-  const char* const end = digits.data() + digits.size();
-  if (isHexadecimal(digits))
-    return std::from_chars(digits.data() + 2, end, magnitude, std::chars_format::hex).ec;
-  if (!digits.empty() && digits.front() == '-') // a second sign
-    return std::errc::invalid_argument;
-  const std::errc error = std::from_chars(digits.data(), end, magnitude).ec;
+  const std::errc error = readNumber(digits, magnitude).ec;
   return error == std::errc() && isTooSmall(magnitude) ? std::errc::result_out_of_range : error;
 }
 

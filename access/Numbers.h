@@ -15,8 +15,9 @@ namespace Lagomare {
 /// range. what() of the errors is "stoul".
 [[nodiscard]] LAGOMARE_EXPORT std::uint32_t toUnsigned(std::string_view text);
 
-/// As std::stod: decimal and hexadecimal numbers, infinities and NaN. Decimal numbers too small for
-/// full precision (subnormal ones) are out of range. what() of the errors is "stod".
+/// As std::stod: decimal and hexadecimal numbers, infinities and NaN. Numbers too small for full
+/// precision (subnormal ones) are out of range, also where they are exact: C libraries disagree about those. what() of
+/// the errors is "stod".
 [[nodiscard]] LAGOMARE_EXPORT double toDouble(std::string_view text);
 
 /// toDouble, truncated toward zero; FieldOutOfRange "stod" where the result does not fit.
