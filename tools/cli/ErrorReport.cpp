@@ -5,8 +5,8 @@
 #include "tools/cli/LastQuery.h"
 #include "tools/cli/Text.h"
 
-#include <algorithm>
 #include <array>
+#include <cctype>
 #include <new>
 
 namespace LagomareCli {
@@ -77,12 +77,17 @@ std::string hintForMissingPart(const ImportPlace& place) {
                               : "; the project may be of the other dialect: try --dialect " + other;
 }
 
-/// Whether the reason is about the table or one of its columns.
+bool hasWord(const std::string& text, const std::string& word) {
+  const auto isPart = [](char c) { return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0; };
+  for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1))
+    if ((at == 0 || !isPart(text[at - 1])) && (at + word.size() == text.size() || !isPart(text[at + word.size()])))
+      return true;
+  return false;
+}
+
+/// Whether the reason is that the table, or a column of it, is not there.
 bool isOfMissingPart(const std::string& refusal, const LastQuery& query) {
-  const auto isNamed = [&refusal](const std::string& name) {
-    return !name.empty() && refusal.find(name) != std::string::npos;
-  };
-  return isNamed(query.table) || std::any_of(query.columns.begin(), query.columns.end(), isNamed);
+  return refusal.find("no such column") != std::string::npos || (!query.table.empty() && hasWord(refusal, query.table));
 }
 
 /// The answer's form is a frequent fault of an executable of one's own.

@@ -72,8 +72,12 @@ std::string joinOwnGroup() {
 [[noreturn]] void become(std::vector<char*> words) {
   redirect(STDIN_FILENO, "/dev/null", O_RDONLY);
   redirect(STDOUT_FILENO, "/dev/null", O_WRONLY);
-  redirect(STDERR_FILENO, complaintFile, O_WRONLY | O_CREAT | O_TRUNC);
-  ::setenv("TMPDIR", fs::current_path().c_str(), 1); // what a query leaves there is removed with the rest
+  redirect(STDERR_FILENO, "/dev/null", O_WRONLY); // where the file cannot be made
+  redirect(STDERR_FILENO, complaintFile, O_WRONLY | O_CREAT);
+  std::error_code error;
+  const fs::path here = fs::current_path(error);
+  if (!error)
+    ::setenv("TMPDIR", here.c_str(), 1); // what a query leaves there is removed with the rest
   std::string executable = joinOwnGroup();
   if (executable.empty())
     ::_exit(couldNotStart);
@@ -105,9 +109,10 @@ std::string errorLine(const std::string& reason) { return "error: " + reason + "
 /// On a full disk an error line takes the answer's place without a byte being written.
 bool forbidOldAnswer(const std::string& sql) {
   const auto& answer = LagomareProjectManager::fileResultQuery;
+  std::error_code error;
+  fs::remove(complaintFile, error);
   if (writeFile(answer, errorLine(noAnswer)) && writeFile(sqlFile, sql))
     return true;
-  std::error_code error;
   fs::rename(fullDiskFile, answer, error);
   return false;
 }
@@ -146,7 +151,7 @@ int launchQuery(char* arguments[]) {
   std::error_code error;
   fs::remove(groupFile, error);
   if (!fs::exists(LagomareProjectManager::fileResultQuery, error)) // an executable may clear an old answer away
-    static_cast<void>(forbidOldAnswer(sql));
+    static_cast<void>(writeFile(LagomareProjectManager::fileResultQuery, errorLine(noAnswer)));
   return exitCode;
 }
 
