@@ -45,7 +45,7 @@ void writeElements(FileWriter& out, const Scenario& scenario) {
   for (const auto& node : networkOf(scenario).nodes) {
     const auto settings = settingsOf(scenario, *node);
     const auto* const info = reservoirInfoOf(*node);
-    const auto volume = [info](double ReservoirInfo::*member) { return info ? field(info->*member) : ""; };
+    const auto volume = [info](double ReservoirInfo::*member) { return info == nullptr ? "" : field(info->*member); };
     writeRecord(out, identity(*node), field(node->getX()), field(node->getY()),
                 settings ? std::to_string(settings->priority) : "", volume(&ReservoirInfo::initialVolume),
                 volume(&ReservoirInfo::minimumVolume), volume(&ReservoirInfo::maximumVolume));

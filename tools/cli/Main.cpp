@@ -22,7 +22,7 @@ void occupyStandardStreams() {
       static_cast<void>(::open("/dev/null", O_RDONLY) == descriptor);
 }
 
-int runCommand(int argumentCount, char* arguments[]) {
+int runCommand(int argumentCount, char** arguments) {
   try {
     const auto options = parseOptions(argumentCount, arguments);
     return options ? importProject(*options) : success;
@@ -39,7 +39,7 @@ int runCommand(int argumentCount, char* arguments[]) {
 
 } // namespace
 
-int main(int argumentCount, char* arguments[]) {
+int main(int argumentCount, char** arguments) {
   occupyStandardStreams();
   std::signal(SIGPIPE, SIG_IGN); // a closed pipe is an error of writing
   if (argumentCount > 0 && isLauncher(arguments[0]))

@@ -85,7 +85,7 @@ std::string textOf(const UtmZone& zone) {
   return std::to_string(zone.number) + (zone.hemisphere == Hemisphere::North ? NorthType().code : SouthType().code);
 }
 
-std::optional<ImportOptions> parseOptions(int argumentCount, char* arguments[]) {
+std::optional<ImportOptions> parseOptions(int argumentCount, char** arguments) {
   ImportOptions options;
   RawOptions raw;
   const std::string version = std::string("lagomare ") + LAGOMARE_VERSION;

@@ -30,6 +30,6 @@ struct ImportOptions {
 };
 
 /// Nothing where the call only asked for help or for the version, which were printed. Throws UsageError.
-[[nodiscard]] std::optional<ImportOptions> parseOptions(int argumentCount, char* arguments[]);
+[[nodiscard]] std::optional<ImportOptions> parseOptions(int argumentCount, char** arguments);
 
 } // namespace LagomareCli

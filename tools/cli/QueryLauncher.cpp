@@ -137,7 +137,7 @@ PlainNames installLauncher(const fs::path& program, const fs::path& executable, 
 
 bool isLauncher(const std::string& calledAs) { return calledAs == std::string("./") + launcherName; }
 
-int launchQuery(char* arguments[]) {
+int launchQuery(char** arguments) {
   std::vector<char*> words;
   for (; *arguments != nullptr; ++arguments)
     words.push_back(*arguments);

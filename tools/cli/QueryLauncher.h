@@ -23,7 +23,7 @@ struct PlainNames {
 [[nodiscard]] bool isLauncher(const std::string& calledAs);
 
 /// Runs one query to its end, as a process group of its own; returns the exit code.
-[[nodiscard]] int launchQuery(char* arguments[]);
+[[nodiscard]] int launchQuery(char** arguments);
 
 /// Ends the query that runs in a private directory, if any, with what it started; no other one can start there.
 void stopQuery(const std::filesystem::path& directory);
