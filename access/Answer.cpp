@@ -1,71 +1,74 @@
 #include "access/Answer.h"
 
 #include "access/FieldError.h"
+#include "access/LineReader.h"
 #include "access/Numbers.h"
 
-#include <filesystem>
-#include <fstream>
+#include <utility>
 
 namespace Lagomare {
 
 namespace {
 
-constexpr std::size_t chunk = std::size_t{1} << 16U;
-
-/// All fields but the last, which is never built; so many are expected.
-Row fieldsOf(std::string_view line, std::size_t expected) {
-  Row fields;
-  fields.reserve(expected);
-  for (std::size_t end = line.find(' '); end != std::string_view::npos; end = line.find(' ')) {
-    fields.emplace_back(line.data(), end);
-    line.remove_prefix(end + 1);
+/// Calls startRun(id, rows to expect) where the id changes, and add(text of the id, the line behind it) for each line.
+/// Ids mostly come in runs of equal length, and a line that begins like the one before has the same id.
+template <typename StartRun, typename Add>
+void forEachRow(std::istream& answer, StartRun startRun, Add add) {
+  std::string idText; // with the blank behind it
+  std::size_t runLength = 0;
+  LineReader lines(answer);
+  for (std::string_view line; lines.next(line); ++runLength) {
+    if (idText.empty() || line.substr(0, idText.size()) != idText) {
+      const std::size_t length = line.find(' ');
+      if (length == std::string_view::npos)
+        throw InvalidField("stoul", std::string(line));
+      startRun(toUnsigned(line.substr(0, length)), std::exchange(runLength, 0));
+      idText = line.substr(0, length + 1);
+    }
+    add(line.substr(0, idText.size() - 1), line.substr(idText.size()));
   }
-  return fields;
+}
+
+/// The entry of an id, which gets room for so many rows where it is new. Ids mostly ascend.
+template <typename Result, typename... Arguments>
+typename Result::iterator entryOf(Result& result, std::uint32_t id, std::size_t rows, Arguments... arguments) {
+  const auto entry = result.try_emplace(result.end(), id, arguments...);
+  if (entry->second.size() == 0)
+    entry->second.reserve(rows);
+  return entry;
 }
 
 } // namespace
 
-std::string readAnswer(const std::string& file) {
-  std::string text;
-  std::ifstream answer(file, std::ios::binary);
-  if (!answer)
-    return text;
-  std::error_code unknown;
-  const auto size = std::filesystem::file_size(file, unknown);
-  if (!unknown)
-    text.reserve(static_cast<std::size_t>(size) + chunk);
-  std::streamsize got = 0;
-  do {
-    const std::size_t length = text.size();
-    text.resize(length + chunk);
-    answer.read(&text[length], static_cast<std::streamsize>(chunk));
-    got = answer.gcount();
-    text.resize(length + static_cast<std::size_t>(got));
-  } while (got > 0);
-  return text;
-}
-
-std::uint32_t keyOf(std::string_view line) {
-  const std::size_t length = line.find(' ');
-  if (length == std::string_view::npos)
-    throw InvalidField("stoul", std::string(line));
-  return toUnsigned(line.substr(0, length));
-}
-
-QueryResult parseRows(std::string_view text) {
-  QueryResult rows;
-  auto place = rows.end();
-  std::size_t fields = 0; // as many as the row before, for all rows of an answer have the same columns
-  forEachLine(text, [&](std::string_view line) {
-    const std::uint32_t key = keyOf(line);
-    Row row = fieldsOf(line, fields);
-    fields = row.size();
-    // Ids mostly come in runs, and ascending.
-    if (place == rows.end() || place->first != key)
-      place = rows.try_emplace(rows.end(), key);
-    place->second.push_back(std::move(row));
+QueryResult parseRows(std::istream& answer) {
+  QueryResult result;
+  auto place = result.end();
+  std::size_t expected = 1; // as many fields as the row before: all rows of an answer have the same columns
+  const auto startRun = [&](std::uint32_t id, std::size_t rows) { place = entryOf(result, id, rows); };
+  forEachRow(answer, startRun, [&](std::string_view id, std::string_view rest) {
+    Row& row = place->second.emplace_back();
+    row.reserve(expected);
+    row.emplace_back(id);
+    for (std::size_t end = rest.find(' '); end != std::string_view::npos; end = rest.find(' ')) {
+      row.emplace_back(rest.data(), end);
+      rest.remove_prefix(end + 1);
+    }
+    expected = row.size();
   });
-  return rows;
+  return result;
+}
+
+ValueResult parseValues(std::istream& answer) {
+  ValueResult result;
+  auto place = result.end();
+  const auto startRun = [&](std::uint32_t id, std::size_t rows) { place = entryOf(result, id, rows, id); };
+  forEachRow(answer, startRun, [&](std::string_view /*id*/, std::string_view rest) {
+    if (const std::size_t end = rest.find(' '); end != std::string_view::npos)
+      place->second.append(rest.substr(0, end));
+    else
+      place->second.appendMissing();
+  });
+  return result;
 }
 
 } // namespace Lagomare

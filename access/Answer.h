@@ -1,38 +1,23 @@
 #pragma once
 
 #include "access/QueryResult.h"
+#include "access/ValueResult.h"
 #include "lagomare_export.h"
 
-#include <string>
-#include <string_view>
+#include <istream>
 
 namespace Lagomare {
 
-// The answer file of a query executable: one line per row, fields parted by single blanks, the last field of each
-// line no data. Lines end with a line feed, the last one may lack it; an empty line, or one that holds a carriage
-// return alone, is skipped. Fields are parted as StringUtils::split of the stand-alone core does it, but in place: two
-// blanks in a row enclose an empty field.
+// The answer of a query executable: lines as LineReader reads them, one per row, fields parted by single blanks, the
+// last field of each line no data. Fields are parted as StringUtils::split of the stand-alone core does it, but in
+// place: two blanks in a row enclose an empty field. Both functions read the stream to where it ends or fails; both
+// throw InvalidField or FieldOutOfRange ("stoul") for a line whose first field is no id, and InvalidField for a line
+// of a single field.
 
-/// The whole file; empty where it cannot be opened or read.
-[[nodiscard]] LAGOMARE_EXPORT std::string readAnswer(const std::string& file);
+/// The rows by id.
+[[nodiscard]] LAGOMARE_EXPORT QueryResult parseRows(std::istream& answer);
 
-/// The rows by id. Throws InvalidField or FieldOutOfRange ("stoul") for a line whose first field is no id,
-/// and InvalidField for a line of a single field.
-[[nodiscard]] LAGOMARE_EXPORT QueryResult parseRows(std::string_view text);
-
-/// Calls visit(line) for each line that is not skipped, without its line feed.
-template <typename Visit>
-void forEachLine(std::string_view text, Visit visit) {
-  while (!text.empty()) {
-    const std::size_t length = text.find('\n');
-    const std::string_view line = text.substr(0, length);
-    text.remove_prefix(length == std::string_view::npos ? text.size() : length + 1);
-    if (!line.empty() && line != "\r")
-      visit(line);
-  }
-}
-
-/// The id of a line. Throws as parseRows does.
-[[nodiscard]] LAGOMARE_EXPORT std::uint32_t keyOf(std::string_view line);
+/// The values by id: of each row the field behind the id.
+[[nodiscard]] LAGOMARE_EXPORT ValueResult parseValues(std::istream& answer);
 
 } // namespace Lagomare

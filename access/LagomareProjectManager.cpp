@@ -45,15 +45,17 @@ void LagomareProjectManager::buildScript(const std::string& sql, bool flag) cons
 }
 
 QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) const {
-  return Lagomare::parseRows(ask(sql, flag));
+  std::ifstream answer = ask(sql, flag);
+  return Lagomare::parseRows(answer);
 }
 
 ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool flag) const {
-  return ValueResult(ask(sql, flag));
+  std::ifstream answer = ask(sql, flag);
+  return Lagomare::parseValues(answer);
 }
 
-std::string LagomareProjectManager::ask(const std::string& sql, bool flag) const {
+std::ifstream LagomareProjectManager::ask(const std::string& sql, bool flag) const {
   buildScript(sql, flag);
   Lagomare::runScript(scriptFile);
-  return Lagomare::readAnswer(fileResultQuery);
+  return std::ifstream(fileResultQuery, std::ios::binary);
 }

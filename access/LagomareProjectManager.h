@@ -4,6 +4,7 @@
 #include "access/ValueResult.h"
 #include "lagomare_export.h"
 
+#include <iosfwd>
 #include <string>
 
 /// The channel to a legacy database: asks an external query executable, which writes its answer to a file.
@@ -36,7 +37,7 @@ public:
   void buildScript(const std::string& sql, bool flag) const;
 
   /// Runs one query. An answer that cannot be opened is empty; that the executable failed is not noticed: an
-  /// old answer would be read again. Throws as parseRows does.
+  /// old answer would be read again. Throws as Lagomare::parseRows does.
   [[nodiscard]] QueryResult query(const std::string& sql, bool flag) const;
   /// The same for a query of an id and one value.
   [[nodiscard]] ValueResult queryValues(const std::string& sql, bool flag) const;
@@ -45,7 +46,8 @@ private:
   explicit LagomareProjectManager(const std::string& databaseFilename);
   ~LagomareProjectManager();
 
-  [[nodiscard]] std::string ask(const std::string& sql, bool flag) const;
+  /// Runs one query and opens its answer.
+  [[nodiscard]] std::ifstream ask(const std::string& sql, bool flag) const;
 
   std::string databaseFilename;
   std::string apiExecutable;

@@ -41,52 +41,65 @@ bool isHexadecimal(std::string_view digits) {
   return isDigit(first) || (first >= 'a' && first <= 'f') || (first >= 'A' && first <= 'F');
 }
 
-/// Digits with at most one point among them, 15 at most. Both the digits as an integer and the power of ten are exact
-/// doubles then, so their quotient is the nearest double. False, and nothing read, for any other text.
-bool readPlainDecimal(std::string_view digits, double& magnitude) {
+struct Reading {
+  double value;
+  std::errc error; ///< of from_chars
+};
+
+/// Digits with at most one point among them, 15 at most, as nearly all values are written. Both the digits as an
+/// integer and the power of ten are exact doubles then, so their quotient is the nearest double. Nothing for any other
+/// text.
+std::optional<double> readPlainDecimal(std::string_view text) {
   constexpr std::size_t mostDigits = 15;
-  constexpr std::array<double, mostDigits + 1> powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  if (FLT_EVAL_METHOD != 0 || digits.size() > mostDigits + 1)
-    return false;
-  std::uint64_t integer = 0;
-  std::size_t read = 0;
-  std::size_t decimals = 0;
-  bool hasPoint = false;
-  for (const char c : digits) {
-    if (isDigit(c)) {
-      integer = integer * 10 + static_cast<std::uint64_t>(c - '0');
-      ++read;
-      decimals += hasPoint ? 1U : 0U;
-    } else if (c == '.' && !hasPoint) {
-      hasPoint = true;
-    } else {
-      return false;
-    }
+  static constexpr std::array<double, mostDigits + 1> powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (FLT_EVAL_METHOD != 0 || text.size() > mostDigits + 1)
+    return std::nullopt;
+  std::int64_t integer = 0;
+  std::size_t point = text.size();
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (isDigit(text[at]))
+      integer = integer * 10 + (text[at] - '0');
+    else if (text[at] == '.' && point == text.size())
+      point = at;
+    else
+      return std::nullopt;
   }
-  if (read == 0 || read > mostDigits)
-    return false;
-  magnitude = static_cast<double>(integer) / powersOfTen[decimals];
-  return true;
+  const bool hasPoint = point < text.size();
+  const std::size_t digits = text.size() - (hasPoint ? 1U : 0U);
+  if (digits == 0 || digits > mostDigits)
+    return std::nullopt;
+  return static_cast<double>(integer) / powersOfTen[hasPoint ? digits - point : 0U];
 }
 
-bool isTooSmall(double magnitude) { return magnitude != 0.0 && magnitude < std::numeric_limits<double>::min(); }
+bool isTooSmall(double magnitude) { return magnitude < std::numeric_limits<double>::min() && magnitude != 0.0; }
 
-std::from_chars_result readNumber(std::string_view digits, double& magnitude) {
+Reading readMagnitude(std::string_view digits) {
+  const bool isHex = isHexadecimal(digits);
+  const char* const begin = digits.data() + (isHex ? 2 : 0);
   const char* const end = digits.data() + digits.size();
-  if (isHexadecimal(digits))
-    return std::from_chars(digits.data() + 2, end, magnitude, std::chars_format::hex);
-  if (!digits.empty() && digits.front() == '-') // a second sign
-    return {digits.data(), std::errc::invalid_argument};
-  return std::from_chars(digits.data(), end, magnitude);
+  if (begin != end && *begin == '-') // a second sign
+    return {0.0, std::errc::invalid_argument};
+  double magnitude = 0.0;
+  const auto format = isHex ? std::chars_format::hex : std::chars_format::general;
+  const std::errc error = std::from_chars(begin, end, magnitude, format).ec;
+  if (error == std::errc() && isTooSmall(magnitude))
+    return {0.0, std::errc::result_out_of_range};
+  return {magnitude, error};
 }
 
-/// The errors of from_chars, and out of range where the number is too small for full precision.
-std::errc readMagnitude(std::string_view digits, double& magnitude) {
-  if (readPlainDecimal(digits, magnitude))
-    return {};
-  const std::errc error = readNumber(digits, magnitude).ec;
-  return error == std::errc() && isTooSmall(magnitude) ? std::errc::result_out_of_range : error;
+Reading readNumber(std::string_view text) {
+  if (const auto plain = readPlainDecimal(text))
+    return {*plain, {}};
+  const Unsigned number(text);
+  const Reading magnitude = readMagnitude(number.digits);
+  return {number.isNegative ? -magnitude.value : magnitude.value, magnitude.error};
+}
+
+[[noreturn]] void throwError(std::errc error, const char* conversion, std::string_view text) {
+  if (error == std::errc::result_out_of_range)
+    throw FieldOutOfRange(conversion, std::string(text));
+  throw InvalidField(conversion, std::string(text));
 }
 
 /// Truncation toward zero fits between the limits exclusive of the next integers.
@@ -104,24 +117,23 @@ Integer truncate(std::string_view text) {
 std::uint32_t toUnsigned(std::string_view text) {
   const Unsigned number(text);
   std::uint32_t magnitude = 0;
-  const auto end = number.digits.data() + number.digits.size();
-  const auto result = std::from_chars(number.digits.data(), end, magnitude);
-  if (result.ec == std::errc::invalid_argument)
-    throw InvalidField(unsignedConversion, std::string(text));
-  if (result.ec == std::errc::result_out_of_range)
-    throw FieldOutOfRange(unsignedConversion, std::string(text));
+  const char* const end = number.digits.data() + number.digits.size();
+  const std::errc error = std::from_chars(number.digits.data(), end, magnitude).ec;
+  if (error != std::errc())
+    throwError(error, unsignedConversion, text);
   return number.isNegative ? 0U - magnitude : magnitude;
 }
 
 double toDouble(std::string_view text) {
-  const Unsigned number(text);
-  double magnitude = 0.0;
-  const std::errc error = readMagnitude(number.digits, magnitude);
-  if (error == std::errc::invalid_argument)
-    throw InvalidField(doubleConversion, std::string(text));
-  if (error == std::errc::result_out_of_range)
-    throw FieldOutOfRange(doubleConversion, std::string(text));
-  return number.isNegative ? -magnitude : magnitude;
+  const Reading reading = readNumber(text);
+  if (reading.error != std::errc())
+    throwError(reading.error, doubleConversion, text);
+  return reading.value;
+}
+
+std::optional<double> readDouble(std::string_view text) {
+  const Reading reading = readNumber(text);
+  return reading.error == std::errc() ? std::optional(reading.value) : std::nullopt;
 }
 
 std::int32_t toTruncatedInt(std::string_view text) { return truncate<std::int32_t>(text); }

@@ -3,6 +3,7 @@
 #include "lagomare_export.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace Lagomare {
@@ -19,6 +20,8 @@ namespace Lagomare {
 /// precision (subnormal ones) are out of range, also where they are exact: C libraries disagree about those. what() of
 /// the errors is "stod".
 [[nodiscard]] LAGOMARE_EXPORT double toDouble(std::string_view text);
+/// The same number; nothing where toDouble throws.
+[[nodiscard]] LAGOMARE_EXPORT std::optional<double> readDouble(std::string_view text);
 
 /// toDouble, truncated toward zero; FieldOutOfRange "stod" where the result does not fit.
 [[nodiscard]] LAGOMARE_EXPORT std::int32_t toTruncatedInt(std::string_view text);

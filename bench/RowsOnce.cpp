@@ -3,6 +3,7 @@
 #include "access/Answer.h"
 #include "bench/plain/PlainRows.h"
 
+#include <fstream>
 #include <iostream>
 #include <unistd.h>
 
@@ -15,7 +16,8 @@ int main(int count, char** words) {
     _exit(rows.empty() ? 1 : 0); // without destroying them
   }
   if (parser == "ours") {
-    const auto rows = parseRows(readAnswer(words[2]));
+    std::ifstream answer(words[2], std::ios::binary);
+    const auto rows = parseRows(answer);
     _exit(rows.empty() ? 1 : 0);
   }
   std::cerr << "usage: lagomare-bench-rows plain|ours ANSWER_FILE\n";

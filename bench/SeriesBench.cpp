@@ -9,6 +9,7 @@
 #include "model/Calendar.h"
 #include "model/ElementFactory.h"
 
+#include <fstream>
 #include <stdexcept>
 
 namespace LagomareBench {
@@ -62,7 +63,8 @@ PlainSeries plain() {
 
 ElementMap throughQueryResult() {
   auto elements = junctions();
-  for (const auto& [id, rows] : parseRows(readAnswer(file))) {
+  std::ifstream answer(file, std::ios::binary);
+  for (const auto& [id, rows] : parseRows(answer)) {
     std::vector<double> values;
     for (const Row& row : rows)
       values.push_back(numberAt(row, 1));
@@ -76,7 +78,8 @@ ElementMap throughQueryResult() {
 /// What the loaders do.
 ElementMap throughValueResult() {
   auto elements = junctions();
-  loadSeries(ValueResult(readAnswer(file)), elements, SerieType::NaturalAffluentFlow, interval, Layout::Sequence);
+  std::ifstream answer(file, std::ios::binary);
+  loadSeries(parseValues(answer), elements, SerieType::NaturalAffluentFlow, interval, Layout::Sequence);
   return elements;
 }
 

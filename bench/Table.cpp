@@ -84,8 +84,9 @@ void Work::addLoop(const std::string& contender, double items, std::function<voi
 
 void Work::runChecked(benchmark::State& state, const std::function<void()>& body) {
   try {
-    if (const auto check = std::exchange(check_, nullptr))
-      check();
+    if (check_) // once, but for one that fails
+      check_();
+    check_ = nullptr;
     for ([[maybe_unused]] auto _ : state)
       body();
   } catch (const std::exception& error) {

@@ -5,8 +5,9 @@ add_library(telu-lagomare-project
   access/FieldError.cpp
   access/Fields.cpp
   access/LagomareProjectManager.cpp
+  access/LineReader.cpp
   access/Numbers.cpp
-  access/ValueResult.cpp
+  access/ValueColumn.cpp
   elements/common/Demands.cpp
   elements/common/Elements.cpp
   elements/common/Links.cpp

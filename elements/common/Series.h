@@ -13,14 +13,14 @@ enum class Layout {
 };
 
 /// Lays the values of each id on the series of that kind of its element, over the interval, which the series
-/// then takes. All values of an id are converted before the first is laid. An id that is not among the
-/// elements is skipped. Throws as serieOf and ValueColumn::numberAt do; the series of earlier ids stay
+/// then takes. All values of an id are looked at before the first is laid. An id that is not among the
+/// elements is skipped. Throws as serieOf and ValueColumn::requireNumbers do; the series of earlier ids stay
 /// filled.
 void loadSeries(const ValueResult& values, const ElementMap& elements, SerieType type, const Interval& interval,
                 Layout layout);
 
-/// The same for one series, but each value is converted when its first date comes: rows that no date needs
-/// are not read.
+/// The same for one series, but each value is looked at when its first date comes: a row that no date needs may hold
+/// anything.
 void layAsNeeded(const ValueColumn& values, Serie& serie, const Interval& interval, Layout layout);
 
 } // namespace Lagomare

@@ -12,13 +12,13 @@ namespace Lagomare {
 /// skipped. S is the class of the elements' settings.
 template <typename S>
 void loadStateSeries(const ValueResult& values, const Scenario& scenario, unsigned state, Layout layout) {
-  values.forEachId([&](std::uint32_t id, const ValueColumn& column) {
+  for (const auto& [id, column] : values) {
     const auto element = scenario.getElement(id);
     if (!element)
-      return;
+      continue;
     const S& settings = settingsOf<S>(*element, scenario);
     layAsNeeded(column, *settings.getPrioritySeries().at(state - 1).second, scenario.getInterval(), layout);
-  });
+  }
 }
 
 /// The same for every state in turn, whatever the kind of states: askFor(state) asks for the values of the state with

@@ -2,7 +2,6 @@
 
 #include "access/FieldError.h"
 #include "access/Fields.h"
-#include "access/ValueResult.h"
 
 #include <gmock/gmock.h>
 
@@ -45,40 +44,50 @@ std::string printed(Read read) {
   }
 }
 
+QueryResult rowsOf(const std::string& text) {
+  std::istringstream answer(text);
+  return parseRows(answer);
+}
+
+ValueResult valuesOf(const std::string& text) {
+  std::istringstream answer(text);
+  return parseValues(answer);
+}
+
 void expectAsNaive(const std::string& text) {
-  EXPECT_EQ(printed([&] { return parseRows(text); }), printed([&] { return naiveRows(text); })) << PrintToString(text);
+  EXPECT_EQ(printed([&] { return rowsOf(text); }), printed([&] { return naiveRows(text); })) << PrintToString(text);
 }
 
 /// The two ways of reading agree on each id's values, and on what is wrong with them.
 void expectSameValues(const std::string& text) {
-  const QueryResult rows = parseRows(text);
+  const QueryResult rows = rowsOf(text);
   auto next = rows.begin();
-  ValueResult(text).forEachId([&](std::uint32_t id, const ValueColumn& column) {
+  for (const auto& [id, column] : valuesOf(text)) {
     ASSERT_NE(next, rows.end());
     EXPECT_EQ(id, next->first);
     ASSERT_EQ(column.size(), next->second.size()) << text;
     for (std::size_t row = 0; row < column.size(); ++row)
       EXPECT_EQ(printed([&] { return column.numberAt(row); }), printed([&] { return numberAt(next->second[row], 1); }));
     ++next;
-  });
+  }
   EXPECT_EQ(next, rows.end());
 }
 
 } // namespace
 
 TEST(AnswerTest, HoldsTheRowsOfEachIdInTheOrderOfTheFile) {
-  EXPECT_EQ(parseRows("5 a x\n10 b .\n9 .\n5  b x"),
+  EXPECT_EQ(rowsOf("5 a x\n10 b .\n9 .\n5  b x"),
             (QueryResult{{5, {{"5", "a"}, {"5", "", "b"}}}, {9, {{"9"}}}, {10, {{"10", "b"}}}}));
-  EXPECT_EQ(parseRows("15/01/1990 2 .\r\n\r\n\n").at(15), (std::vector<Row>{{"15/01/1990", "2"}}));
-  EXPECT_EQ(parseRows("-1 .\n").begin()->first, 4294967295U);
-  EXPECT_TRUE(parseRows("").empty());
+  EXPECT_EQ(rowsOf("15/01/1990 2 .\r\n\r\n\n").at(15), (std::vector<Row>{{"15/01/1990", "2"}}));
+  EXPECT_EQ(rowsOf("-1 .\n").begin()->first, 4294967295U);
+  EXPECT_TRUE(rowsOf("").empty());
 }
 
 TEST(AnswerTest, ThrowsForALineWithoutAnId) {
   for (const char* text : {"1 .\nx .\n", "1 .\n .\n", "1 .\n7\n", "1 .\n \n", "+ ."})
-    EXPECT_THAT([text] { static_cast<void>(parseRows(text)); }, ThrowsMessage<InvalidField>("stoul")) << text;
+    EXPECT_THAT([text] { static_cast<void>(rowsOf(text)); }, ThrowsMessage<InvalidField>("stoul")) << text;
   for (const char* text : {"4294967296 .", "1 .\n99999999999999999999 .\n"})
-    EXPECT_THAT([text] { static_cast<void>(parseRows(text)); }, ThrowsMessage<FieldOutOfRange>("stoul")) << text;
+    EXPECT_THAT([text] { static_cast<void>(rowsOf(text)); }, ThrowsMessage<FieldOutOfRange>("stoul")) << text;
 }
 
 TEST(AnswerTest, IsReadAsByANaiveReader) {
@@ -90,7 +99,7 @@ TEST(AnswerTest, IsReadAsByANaiveReader) {
     for (auto length = engine() % 16; length > 0; --length)
       text += pieces[engine() % pieces.size()];
     expectAsNaive(text);
-    EXPECT_EQ(printed([&] { return ValueResult(text).empty(); }), printed([&] { return parseRows(text).empty(); }));
+    EXPECT_EQ(printed([&] { return valuesOf(text).empty(); }), printed([&] { return rowsOf(text).empty(); }));
     // Well-formed: ids in runs or not, values of all sorts, rows that lack theirs.
     text.clear();
     for (auto rows = engine() % 12; rows > 0; --rows)

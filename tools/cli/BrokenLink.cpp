@@ -6,6 +6,7 @@
 #include "elements/2010/ElementBdIdFactory.h"
 #include "elements/2013/ElementBdIdFactory.h"
 
+#include <fstream>
 #include <set>
 
 namespace LagomareCli {
@@ -29,7 +30,8 @@ std::set<unsigned> nodeIds(Dialect dialect) {
 } // namespace
 
 std::string findBrokenLink(Dialect dialect) {
-  const QueryResult links = Lagomare::parseRows(Lagomare::readAnswer(LagomareProjectManager::fileResultQuery));
+  std::ifstream answer(LagomareProjectManager::fileResultQuery, std::ios::binary);
+  const QueryResult links = Lagomare::parseRows(answer);
   const std::set<unsigned> nodes = nodeIds(dialect);
   for (const auto& [id, rows] : links)
     for (const std::size_t column : {upstreamColumn, downstreamColumn}) {

@@ -1,11 +1,13 @@
 #include "tools/cli/LastQuery.h"
 
-#include "access/Answer.h"
 #include "access/LagomareProjectManager.h"
+#include "access/LineReader.h"
 #include "tools/cli/Failure.h"
 #include "tools/cli/QueryLauncher.h"
+#include "tools/cli/ReadFile.h"
 #include "tools/cli/Text.h"
 
+#include <fstream>
 #include <map>
 
 namespace LagomareCli {
@@ -36,7 +38,7 @@ std::string between(const std::string& text, const std::string& before, const st
 }
 
 /// The script's one line is: executable "database" "sql" flag, with plain names in it.
-std::string sqlOfScript() { return between(Lagomare::readAnswer(LagomareProjectManager::scriptFile), "\" \"", "\""); }
+std::string sqlOfScript() { return between(readFile(LagomareProjectManager::scriptFile), "\" \"", "\""); }
 
 /// The names of a list of columns; FORMAT(name, pattern) is a date of that name.
 std::vector<std::string> namesIn(std::string list) {
@@ -92,20 +94,20 @@ std::string refusalOfLastQuery(const Inputs& inputs, const std::string& plainDat
 }
 
 std::string firstLineOfAnswer() {
-  const std::string answer = Lagomare::readAnswer(LagomareProjectManager::fileResultQuery);
-  return answer.substr(0, answer.find('\n'));
+  std::ifstream answer(LagomareProjectManager::fileResultQuery, std::ios::binary);
+  std::string line;
+  std::getline(answer, line);
+  return line;
 }
 
 std::size_t rowOfId(const std::string& idText) {
-  const std::string answer = Lagomare::readAnswer(LagomareProjectManager::fileResultQuery);
-  std::size_t row = 0;
-  std::size_t found = 0;
-  Lagomare::forEachLine(answer, [&](std::string_view line) {
-    ++row;
-    if (found == 0 && (line == idText || line.substr(0, line.find(' ')) == idText))
-      found = row;
-  });
-  return found;
+  std::ifstream answer(LagomareProjectManager::fileResultQuery, std::ios::binary);
+  Lagomare::LineReader lines(answer);
+  std::size_t row = 1;
+  for (std::string_view line; lines.next(line); ++row)
+    if (line == idText || line.substr(0, line.find(' ')) == idText)
+      return row;
+  return 0;
 }
 
 void requireLaunched() {

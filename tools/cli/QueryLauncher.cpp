@@ -1,8 +1,8 @@
 #include "tools/cli/QueryLauncher.h"
 
-#include "access/Answer.h"
 #include "access/LagomareProjectManager.h"
 #include "tools/cli/Failure.h"
+#include "tools/cli/ReadFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -158,15 +158,15 @@ int launchQuery(char** arguments) {
 void stopQuery(const fs::path& directory) {
   std::error_code error;
   fs::remove(directory / executableLink, error);
-  const long group = std::atol(Lagomare::readAnswer((directory / groupFile).string()).c_str());
+  const long group = std::atol(readFile(directory / groupFile).c_str());
   if (group > 1)
     ::kill(static_cast<pid_t>(-group), SIGKILL);
 }
 
-std::string lastLaunchedSql() { return Lagomare::readAnswer(sqlFile); }
+std::string lastLaunchedSql() { return readFile(sqlFile); }
 
 std::string lastQueryComplaint() {
-  std::string text = Lagomare::readAnswer(complaintFile);
+  std::string text = readFile(complaintFile);
   const std::size_t end = text.find_last_not_of(" \t\r\n");
   if (end == std::string::npos)
     return "";
