@@ -67,9 +67,33 @@ TEST_F(SqliteDatabaseTest, RowsInAWriteAheadFileAreRead) {
 TEST_F(SqliteDatabaseTest, AHotJournalIsRolledBackInACopy) {
   takeOpenDatabase(std::string(thousandRows) + "PRAGMA cache_size = 1; BEGIN; UPDATE t SET a = 0;");
   ASSERT_GT(fs::file_size("project/p.db-journal"), 10000u);
+  fs::resize_file("project/p.db", fs::file_size("project/p.db") + 100); // its writer died while it added a page
   const std::string before = contentOf("project/p.db");
   expectSum("1000 500500");
   EXPECT_EQ(contentOf("project/p.db"), before);
+}
+
+/// Cut within its last page or by whole ones, in each way of opening.
+TEST_F(SqliteDatabaseTest, ACutDatabaseIsDamaged) {
+  const std::function<void()> makers[] = {
+      [] { runSql("project/p.db", thousandRows); },
+      [] { runSql("project/p.db", std::string("PRAGMA journal_mode = WAL;") + thousandRows); },
+      [] {
+        takeOpenDatabase(std::string(thousandRows) +
+                         "PRAGMA journal_mode = WAL; PRAGMA wal_autocheckpoint = 0; DELETE FROM t WHERE a = 1");
+      },
+      [] { takeOpenDatabase(std::string(thousandRows) + "PRAGMA cache_size = 1; BEGIN; UPDATE t SET a = 0"); },
+  };
+  for (const auto& make : makers)
+    for (const std::uintmax_t cut : {1u, 2000u, 4095u, 4096u, 3 * 4096u, 3 * 4096u + 10}) {
+      for (const char* name : {"writer.db", "project"})
+        fs::remove_all(name);
+      fs::create_directory("project");
+      make();
+      fs::resize_file("project/p.db", fs::file_size("project/p.db") - cut);
+      EXPECT_NE(refusal("project/p.db", "SELECT sum(a) FROM t").find("restore it from a backup"), std::string::npos)
+          << &make - makers << ' ' << cut;
+    }
 }
 
 TEST_F(SqliteDatabaseTest, ADatabaseThatNoCopyCanBeMadeOfIsAnError) {

@@ -62,13 +62,17 @@ void throwSqliteError(sqlite3* connection) {
     throw QueryError("the database is locked; close the program that has it open, then try again");
   case SQLITE_CORRUPT:
   case SQLITE_NOTADB:
-    throw QueryError("the database is damaged (" + text + "); restore it from a backup");
+    throwDamagedSqlite(text);
   case SQLITE_CANTOPEN:
   case SQLITE_IOERR:
     throw QueryError("the database cannot be read (" + text + "); check the file, its permissions and its disk");
   default:
     throw QueryError(text);
   }
+}
+
+void throwDamagedSqlite(const std::string& how) {
+  throw QueryError("the database is damaged (" + how + "); restore it from a backup");
 }
 
 } // namespace LagomareQuery

@@ -37,4 +37,7 @@ void execute(sqlite3* connection, std::string_view sql);
 /// Throws the connection's last error, in words for whoever has the database.
 [[noreturn]] void throwSqliteError(sqlite3* connection);
 
+/// Throws QueryError: the SQLite file is damaged; `how` says what is wrong with it.
+[[noreturn]] void throwDamagedSqlite(const std::string& how);
+
 } // namespace LagomareQuery

@@ -2,6 +2,7 @@
 
 #include "tools/query/PrivateCopy.h"
 #include "tools/query/QueryError.h"
+#include <algorithm>
 #include <fstream>
 
 namespace LagomareQuery {
@@ -26,9 +27,18 @@ std::string uriOf(const fs::path& file, const char* parameters) {
   return uri + "?" + parameters;
 }
 
-/// SQLite opens the file itself only when it reads it for the first time.
+/// SQLite opens the file itself only when it reads it for the first time; the lock holds until endReading().
 int readForTheFirstTime(sqlite3* connection) {
-  return sqlite3_exec(connection, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+  return sqlite3_exec(connection, "BEGIN; SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+}
+
+void endReading(sqlite3* connection) { execute(connection, "COMMIT"); }
+
+/// SQLite takes zeros for what a cut file lacks of its last page; that whole pages are missing it notices itself.
+void requireWholePages(sqlite3* connection, std::uintmax_t fileSize) {
+  const Statement pageSize = prepare(connection, "PRAGMA page_size");
+  if (step(pageSize.get()) && fileSize % static_cast<std::uintmax_t>(sqlite3_column_int64(pageSize.get(), 0)) != 0)
+    throwDamagedSqlite("it is cut off: it ends within a page, after " + std::to_string(fileSize) + " bytes");
 }
 
 bool isWriteAheadMode(const fs::path& file) {
@@ -45,8 +55,12 @@ Database openCopy(const fs::path& file) {
   Connection connection = openConnection(uriOf(copy->database(), "mode=rw"), SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI);
   prepareForQueries(connection.get());
   sqlite3_db_config(connection.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  const std::uintmax_t sizeBefore = FileStamp::of(copy->database()).size;
   if (readForTheFirstTime(connection.get()) != SQLITE_OK)
     throwSqliteError(connection.get());
+  // Rolling back a hot journal takes away a page that was being added, but it also fills up a cut file.
+  requireWholePages(connection.get(), std::min(sizeBefore, FileStamp::of(copy->database()).size));
+  endReading(connection.get());
   copy->removeFiles();
   return {copy, std::move(connection), file, std::nullopt};
 }
@@ -61,6 +75,8 @@ Database openInPlace(const fs::path& file, const char* parameters, std::optional
     return openCopy(file);
   if (result != SQLITE_OK)
     throwSqliteError(connection.get());
+  requireWholePages(connection.get(), FileStamp::of(file).size);
+  endReading(connection.get());
   return {nullptr, std::move(connection), file, stamp};
 }
 
