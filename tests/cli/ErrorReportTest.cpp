@@ -21,14 +21,18 @@ protected:
 
 TEST_F(ErrorReportTest, SaysWhatWhereAndHowToMendIt) {
   const std::vector<std::pair<const char*, const char*>> cases{
-      {"update LgmVazNat set Valor = 'abc' where Data = 5", "basin.db: table LgmVazNat: row of the id 21, column Valor "
-                                                            "holds \"abc\" where a number must stand (query: select "
-                                                            "NumPto, Valor from LgmVazNat)"},
-      {"update Tk_Res_FEA set VolMin = null", "row of the id 1, column VolMin is empty where a number must stand"},
+      {"update LgmVazNat set Valor = 'abc' where Data = 5",
+       "basin.db: table LgmVazNat: row 5 of the id 21, column Valor "
+       "holds \"abc\" where a number must stand (query: select "
+       "NumPto, Valor from LgmVazNat)"},
+      {"update Tk_Res_FEA set VolMin = null", "row 1 of the id 1, column VolMin is empty where a number must stand"},
       {"update LgmDemPrior set Valor = 1e10", "column Valor holds \"10000000000\", which does not fit: a priority"},
       {"insert into LgmResEvap values ('x', 1, 1)", "table LgmResEvap: row 1, column NumPto holds \"x\" where a whole"},
-      {"insert into LgmFrontEH values (2, 'half')", "table LgmFrontEH: row of the id 2, column Valor holds \"half\""},
+      {"insert into LgmFrontEH values (2, 'half')", "table LgmFrontEH: row 1 of the id 2, column Valor holds \"half\""},
       {"update Tk_Gerais set DataHoraIni = null", "row 1, column DataHoraIni is empty where a date must stand"},
+      {"update Tk_Gerais set Duracao = null", "table Tk_Gerais: row 1, column Duracao is empty where a whole"},
+      {"insert into LgmDemPrior values (2, 1, 5)", "table LgmDemPrior: a row has the id 2, which is no demand's;"},
+      {"update LgmResPrior set Valor = -2", "\"-2\", which does not fit: a priority has 32 bits, one of a state no"},
       {"update Tk_Gerais set Duracao = 0", "period is empty: its duration, column Duracao of table Tk_Gerais, is 0"},
       {"update Tk_Gerais set Duracao = 9000", "years from 2000 leads past the year 9999; correct the project's start"},
       {"drop table LgmResCAV", "no such table: LgmResCAV; the project lacks what the 2013 dialect needs"},
@@ -49,7 +53,11 @@ TEST_F(ErrorReportTest, TellsTheDialectsApart) {
   runSql("basin.db", "create table DefGerais (a)");
   EXPECT_THAT(errorOf({"basin.db"}),
               HasSubstr("holds both the table DefGerais (dialect 2010) and Tk_Gerais (dialect 2013)"));
-  runSql("basin.db", "drop table DefGerais; drop table Tk_Gerais");
+  // A question that fails is no answer.
+  runSql("basin.db", "drop table DefGerais; create view DefGerais as select unknown() as a");
+  EXPECT_THAT(errorOf({"basin.db"}), HasSubstr("cannot be found out: "));
+  EXPECT_THAT(errorOf({"basin.db", "--query-executable", executable("exit")}), HasSubstr("own query did not answer"));
+  runSql("basin.db", "drop view DefGerais; drop table Tk_Gerais");
   EXPECT_THAT(errorOf({"basin.db"}), HasSubstr("holds neither the table DefGerais (dialect 2010) nor Tk_Gerais"));
 }
 

@@ -51,6 +51,7 @@ TEST_F(ImportCommandTest, SaysWhatIsOffInTheCall) {
                                                     {"basin.db", "more"},
                                                     {"basin.db", "--json"},
                                                     {"basin.db", "--json", ""},
+                                                    {"basin.db", "--json=", "basin.db"},
                                                     {"basin.db", "--json", "a", "--json", "b"},
                                                     {"basin.db", "--quiet", "--quiet"},
                                                     {"basin.db", "--utm-zone", "61S"},

@@ -27,40 +27,27 @@ protected:
     EXPECT_FALSE(fs::exists("tables"));
   }
 
-  /// The script that waits at a query until the test lets it go on.
-  static std::string stopAt(const std::string& sql, const std::string& then) {
-    return "here=${0%/*}; case \"$2\" in " + sql +
-           ") > \"$here/reached\"\n"
-           "while ! [ -e \"$here/go\" ]; do sleep 0.05; done; " +
-           then + ";; esac; answer \"$@\"";
+  /// The script that hangs at a query.
+  static std::string hangAt(const std::string& sql) {
+    return "case \"$2\" in " + sql + ") > \"${0%/*}/reached\"; sleep 1000;; esac; answer \"$@\"";
   }
 };
 
-TEST_F(InterruptionTest, TheFirstSignalStopsTheImportAlsoWhileAQueryRuns) {
+TEST_F(InterruptionTest, TheFirstSignalStopsTheImportAndTheQueryThatRuns) {
   const std::string steps = "*LgmResCAV";
   const std::string beforeAnyStep = "'select NumPonto from Tk_Dem_FEA'";
   const std::string whileAsked = "*count*DefGerais";
   for (const std::string& query : {steps, beforeAnyStep, whileAsked})
     for (const int signal : {SIGINT, SIGTERM}) {
-      RunningProgram program(words(stopAt(query, ":")));
+      RunningProgram program(words(hangAt(query)));
       ASSERT_TRUE(awaitFile("reached"));
       program.send(signal);
-      writeFile("go", "");
       expectCancelled(program);
       fs::remove("reached");
-      fs::remove("go");
     }
 }
 
-TEST_F(InterruptionTest, AnImportThatFailsAfterTheSignalWasCancelled) {
-  RunningProgram program(words(stopAt("*LgmResCAV", "exit 1")));
-  ASSERT_TRUE(awaitFile("reached"));
-  program.send(SIGINT);
-  writeFile("go", "");
-  expectCancelled(program);
-}
-
-TEST_F(InterruptionTest, TheSecondSignalEndsTheQueryAndAllThatItStarted) {
+TEST_F(InterruptionTest, NothingThatTheQueryStartedOutlivesIt) {
   ASSERT_EQ(::mkfifo("alive", 0600), 0);
   const int alive = ::open("alive", O_RDONLY | O_NONBLOCK);
   // The pipe stays open as long as the script or its child lives.
@@ -68,12 +55,21 @@ TEST_F(InterruptionTest, TheSecondSignalEndsTheQueryAndAllThatItStarted) {
                                "sleep 1000;; esac; answer \"$@\""));
   ASSERT_TRUE(awaitFile("reached"));
   program.send(SIGINT);
-  program.send(SIGTERM);
   expectCancelled(program);
   pollfd closed{alive, POLLIN, 0};
   EXPECT_EQ(::poll(&closed, 1, 60000), 1);
   EXPECT_TRUE(closed.revents & POLLHUP);
   ::close(alive);
+}
+
+TEST_F(InterruptionTest, AnIgnoredSignalStaysIgnored) {
+  const auto command = importing({"basin.db", "--quiet", "--query-executable",
+                                  executable("case \"$2\" in *LgmResCAV) kill -INT $(cat \"${0%/*}/pid\");; esac\n"
+                                             "answer \"$@\"")});
+  EXPECT_EQ(run({"/bin/sh", "-c", "trap '' INT; echo $$ > pid; exec \"$@\"", "sh", command[0], command[1], command[2],
+                 command[3], command[4], fs::absolute(command[5]).string()})
+                .exitCode,
+            0);
 }
 
 TEST_F(InterruptionTest, AfterTheImportTheFirstSignalEndsTheProgram) {

@@ -45,6 +45,26 @@ TEST_F(OutputsTest, AfterAFailureAllIsAsItWas) {
   EXPECT_FALSE(fs::exists("tables") || fs::exists("new"));
 }
 
+TEST_F(OutputsTest, WhenOneFileCannotBeReplacedTheOthersAreNotEither) {
+  writeFile("old.geojson", "old");
+  fs::create_directory("tables");
+  // Late, when all that can be checked before the import has been checked.
+  const std::string script = "mkdir -p \"${0%/*}/new.json\"; answer \"$@\"";
+  const Ending ending = import({"basin.db", "--query-executable", executable(script), "--csv", "tables", "--geojson",
+                                "old.geojson", "--json", "new.json"});
+  EXPECT_EQ(ending.exitCode, 1);
+  EXPECT_THAT(ending.err, HasSubstr("cannot write new.json: Is a directory"));
+  EXPECT_EQ(readFile("old.geojson"), "old");
+  EXPECT_TRUE(fs::is_empty("tables"));
+}
+
+TEST_F(OutputsTest, AFileThatGrowsTooLargeIsAnError) {
+  const Ending ending = run({"/bin/sh", "-c", "ulimit -f 8; exec '" LAGOMARE "' import basin.db --csv tables"});
+  EXPECT_EQ(ending.exitCode, 1);
+  EXPECT_THAT(ending.err, HasSubstr("File too large"));
+  EXPECT_FALSE(fs::exists("tables"));
+}
+
 TEST_F(OutputsTest, ReplacesWhatALinkNamesAndKeepsItsPermissions) {
   fs::create_directory("far");
   writeFile("far/real.json", "old");

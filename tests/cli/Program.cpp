@@ -14,6 +14,8 @@
 RunningProgram::RunningProgram(const std::vector<std::string>& words) : process_(::fork()) {
   if (process_ != 0)
     return;
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP}) // whatever the tests were started to ignore
+    std::signal(signal, SIG_DFL);
   std::vector<char*> arguments;
   for (const std::string& word : words)
     arguments.push_back(const_cast<char*>(word.c_str()));

@@ -61,6 +61,24 @@ TEST_F(QueryLauncherTest, WithstandsHostileExecutables) {
               HasSubstr("it cannot be started: No such file"));
 }
 
+TEST_F(QueryLauncherTest, WhatAQueryLeavesRunningEndsWithIt) {
+  project();
+  const Ending ending = importBy("answer \"$@\"; here=${0%/*}; case \"$2\" in *LgmResPrior)\n"
+                                 "(trap '' HUP; sleep 1; > \"$here/late\") & ;; *LgmLnkCmaxSC*) sleep 1.5;; esac");
+  EXPECT_EQ(ending.exitCode, 0) << ending.err;
+  EXPECT_FALSE(fs::exists("late"));
+}
+
+TEST_F(QueryLauncherTest, AProjectThatChangesWhileItIsReadIsAnError) {
+  project();
+  const Ending ending =
+      importBy("answer \"$@\"; case \"$2\" in *LgmResPrior) touch -t 203001010000 \"${0%/*}/basin.db\";; esac",
+               {"--json", "out.json"});
+  EXPECT_EQ(ending.exitCode, 1);
+  EXPECT_THAT(ending.err, HasSubstr("basin.db: was changed while it was read"));
+  EXPECT_FALSE(fs::exists("out.json"));
+}
+
 TEST_F(QueryLauncherTest, TheExecutableHearsSignalsAsUsual) {
   project();
   // Read by the shell itself: while it starts a program it blocks signals.

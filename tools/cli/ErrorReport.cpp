@@ -1,8 +1,8 @@
 #include "tools/cli/ErrorReport.h"
 
 #include "access/FieldError.h"
-#include "tools/cli/BrokenLink.h"
 #include "tools/cli/LastQuery.h"
+#include "tools/cli/OddRow.h"
 #include "tools/cli/Text.h"
 
 #include <array>
@@ -12,6 +12,8 @@
 namespace LagomareCli {
 
 namespace {
+
+constexpr std::string_view otherKind = "Passed element"; ///< how the library's error begins
 
 /// How to mend what the library throws, by the beginning of its text.
 struct Advice {
@@ -24,7 +26,7 @@ constexpr std::array<Advice, 7> advices{
      {"SceneryProjectManager::loadElements", "correct the project's duration, in years, in its general settings"},
      {"Scenario::addNode", "give every reservoir, demand and junction an id of its own"},
      {"Scenario::addLink", "give every link an id of its own"},
-     {"Passed element", "this table holds the id of an element of another kind; remove that row"},
+     {otherKind, "this table holds the id of an element of another kind; remove that row"},
      {"Invalid serie type", "this table holds the id of an element of another kind; remove that row"}}};
 
 /// Without the name of the operation in front.
@@ -58,17 +60,25 @@ std::string faultOf(const FieldError& field, const std::exception& error, const 
   if (dynamic_cast<const std::out_of_range*>(&error) == nullptr)
     return found + " where " + wanted + " must stand";
   return found + ", which does not fit: " +
-         (isWhole ? wanted + " must stand there" : "a priority has 32 bits, other numbers have double precision");
+         (isWhole ? wanted + " must stand there"
+                  : "a priority has 32 bits, one of a state no sign; other numbers have double precision");
+}
+
+/// The general settings have no id, although the channel takes their first column for one.
+bool hasIds(const std::string& table) {
+  return table != settingsTableOf(Dialect::of2010) && table != settingsTableOf(Dialect::of2013);
+}
+
+std::string rowText(const FieldError& field, const LastQuery& query) {
+  const auto id = hasIds(query.table) ? field.rowId() : std::nullopt;
+  const std::size_t number = field.text() ? findRow(id, field.column().value_or(0), *field.text()) : 0;
+  const std::string row = number == 0 ? "a row" : "row " + std::to_string(number);
+  return id ? row + " of the id " + std::to_string(*id) : row;
 }
 
 std::string describeField(const FieldError& field, const std::exception& error, const LastQuery& query) {
-  std::string row = "a row";
-  if (field.rowId())
-    row = "row of the id " + std::to_string(*field.rowId());
-  else if (const std::size_t number = field.text() ? rowOfId(*field.text()) : 0)
-    row = "row " + std::to_string(number);
   const std::string column = columnText(field.column().value_or(0), query);
-  return row + ", " + column + ' ' + faultOf(field, error, column);
+  return rowText(field, query) + ", " + column + ' ' + faultOf(field, error, column);
 }
 
 std::string hintForMissingPart(const ImportPlace& place) {
@@ -98,9 +108,12 @@ std::string hintForOwnExecutable(const ImportPlace& place) {
              : "";
 }
 
-std::string brokenLink(const ImportPlace& place) {
+/// The row that the library's error does not tell.
+std::string oddRow(const std::string& what, const LastQuery& query, const ImportPlace& place) {
   try {
-    return findBrokenLink(place.dialect);
+    if (what.find(": invalid ") != std::string::npos)
+      return findBrokenLink(place.dialect);
+    return what.compare(0, otherKind.size(), otherKind) == 0 ? findOtherKind(place.dialect, query.table) : "";
   } catch (const std::exception&) {
     return ""; // the first error counts
   }
@@ -113,8 +126,8 @@ std::string faultText(const std::exception& error, const LastQuery& query, const
   if (const auto* field = dynamic_cast<const FieldError*>(&error))
     return describeField(*field, error, query) + hintForOwnExecutable(place);
   const std::string what = error.what();
-  const std::string link = what.find(": invalid ") != std::string::npos ? brokenLink(place) : "";
-  return link.empty() ? explained(what) : link;
+  const std::string row = oddRow(what, query, place);
+  return row.empty() ? explained(what) : row;
 }
 
 /// Around a fault: its table before it, its query behind it.

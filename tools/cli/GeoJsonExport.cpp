@@ -91,11 +91,14 @@ void writeLinkProperties(JsonWriter& json, const Link& link) {
   json.endObject();
 }
 
+/// The number is the feature's own id. Where it lacks one, programs take the property's, which a node and a link may
+/// share, and lose one of the two.
 template <typename WriteGeometry, typename WriteProperties>
-void writeFeature(JsonWriter& json, WriteGeometry writeGeometry, WriteProperties writeProperties) {
+void writeFeature(JsonWriter& json, unsigned number, WriteGeometry writeGeometry, WriteProperties writeProperties) {
   json.breakLine();
   json.beginObject();
   json.text("type", "Feature");
+  json.integer("id", number);
   json.key("geometry");
   writeGeometry();
   json.key("properties");
@@ -112,12 +115,13 @@ void writeGeoJson(FileWriter& out, const Scenario& scenario) {
   json.text("type", "FeatureCollection");
   json.key("features");
   json.beginArray();
+  unsigned number = 0;
   for (const auto& node : network.nodes)
     writeFeature(
-        json, [&] { writePoint(json, *node); }, [&] { writeNodeProperties(json, scenario, *node); });
+        json, ++number, [&] { writePoint(json, *node); }, [&] { writeNodeProperties(json, scenario, *node); });
   for (const auto& link : network.links)
     writeFeature(
-        json, [&] { writeLine(json, *link); }, [&] { writeLinkProperties(json, *link); });
+        json, ++number, [&] { writeLine(json, *link); }, [&] { writeLinkProperties(json, *link); });
   json.endArray();
   json.endObject();
   out.write("\n");

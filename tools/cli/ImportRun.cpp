@@ -74,16 +74,30 @@ Imported importIn(const PlainNames& names, const ImportOptions& options, const I
   return imported;
 }
 
+/// What changes when somebody writes to the project: size and time of its file and of the one through which a SQLite
+/// database in write-ahead mode is written.
+std::vector<std::pair<std::uintmax_t, std::filesystem::file_time_type>> stampOf(const std::filesystem::path& project) {
+  std::error_code missing;
+  const std::filesystem::path log = project.string() + "-wal";
+  return {{std::filesystem::file_size(project, missing), std::filesystem::last_write_time(project, missing)},
+          {std::filesystem::file_size(log, missing), std::filesystem::last_write_time(log, missing)}};
+}
+
 } // namespace
 
-std::optional<Imported> runImport(const ImportOptions& options, const Inputs& inputs,
-                                  const Interruption& interruption) {
+std::optional<Imported> runImport(const ImportOptions& options, const Inputs& inputs, Interruption& interruption) {
   const PrivateDirectory directory;
   const PlainNames names = installLauncher(inputs.program, inputs.executable, inputs.project);
+  interruption.whenRequested([path = directory.path()] { stopQuery(path); });
+  const auto stamp = stampOf(inputs.project);
   try {
     Imported imported = importIn(names, options, inputs, interruption);
-    if (imported.result.status != importCancelled.code)
+    if (imported.result.status != importCancelled.code) {
+      if (stampOf(inputs.project) != stamp)
+        throw Failure(inputs.projectName + ": was changed while it was read, so its parts do not fit together; import "
+                                           "it when no other program writes to it");
       return imported;
+    }
   } catch (const std::exception&) {
     if (!interruption.isRequested())
       throw;

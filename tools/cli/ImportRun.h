@@ -7,8 +7,8 @@
 namespace LagomareCli {
 
 /// Runs the import in a private working directory, which is gone when this returns. Nothing where the user asked to
-/// stop. Throws Failure.
+/// stop. Throws Failure, also where the project was changed meanwhile.
 [[nodiscard]] std::optional<Imported> runImport(const ImportOptions& options, const Inputs& inputs,
-                                                const Interruption& interruption);
+                                                Interruption& interruption);
 
 } // namespace LagomareCli

@@ -16,35 +16,35 @@ namespace {
 /// queries inherit: those must outlive Ctrl-C, and may unblock signals.
 constexpr std::array<int, 2> terminalSignals{SIGINT, SIGQUIT};
 
-/// A program started by nohup goes on when its terminal closes.
+/// Always heard: it also wakes the thread that waits, at the end.
+constexpr int wakingSignal = SIGTERM;
+
+/// As a program is started by nohup, or by a script that is to go on alone.
 bool isIgnored(int signal) {
   struct sigaction action {};
   return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
-sigset_t handledSignals() {
-  static const bool withHangup = !isIgnored(SIGHUP);
+sigset_t signalsNotIgnored() {
   sigset_t signals;
   sigemptyset(&signals);
-  for (const int signal : {SIGINT, SIGTERM, SIGQUIT})
-    sigaddset(&signals, signal);
-  if (withHangup)
-    sigaddset(&signals, SIGHUP);
+  sigaddset(&signals, wakingSignal);
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP})
+    if (!isIgnored(signal))
+      sigaddset(&signals, signal);
   return signals;
 }
 
-/// The step that runs may take long, or hang.
 void tellHowToEnd() {
-  constexpr std::string_view note = "\nlagomare: stopping after the step that runs; once more ends at once\n";
+  constexpr std::string_view note = "\nlagomare: stopping; once more ends at once\n";
   if (::isatty(STDERR_FILENO) != 0)
     static_cast<void>(::write(STDERR_FILENO, note.data(), note.size()) < 0);
 }
 
 } // namespace
 
-Interruption::Interruption() {
-  const sigset_t signals = handledSignals();
-  ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+Interruption::Interruption() : signals_(signalsNotIgnored()) {
+  ::pthread_sigmask(SIG_BLOCK, &signals_, nullptr);
   for (const int signal : terminalSignals)
     std::signal(signal, SIG_IGN);
   thread_ = std::thread([this] { waitForSignals(); });
@@ -55,13 +55,20 @@ Interruption::~Interruption() {
     const std::lock_guard lock(mutex_);
     isLeaving_ = true;
   }
-  ::pthread_kill(thread_.native_handle(), SIGTERM);
+  ::pthread_kill(thread_.native_handle(), wakingSignal);
   thread_.join();
 }
 
 bool Interruption::isRequested() const {
   const std::lock_guard lock(mutex_);
   return state_ == State::stopping;
+}
+
+void Interruption::whenRequested(std::function<void()> stop) {
+  const std::lock_guard lock(mutex_);
+  stop_ = std::move(stop);
+  if (state_ == State::stopping)
+    stop_();
 }
 
 bool Interruption::endImport() {
@@ -77,10 +84,9 @@ void Interruption::endAll() {
 }
 
 void Interruption::waitForSignals() {
-  const sigset_t signals = handledSignals();
   for (;;) {
     int signal = 0;
-    if (::sigwait(&signals, &signal) != 0)
+    if (::sigwait(&signals_, &signal) != 0)
       continue;
     const std::lock_guard lock(mutex_);
     if (isLeaving_)
@@ -96,6 +102,7 @@ void Interruption::handleSignal() {
   if (state_ == State::importing) {
     state_ = State::stopping;
     tellHowToEnd();
+    stop_();
     return;
   }
   ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO); // what the import still tries will fail; nobody wants to know

@@ -1,12 +1,15 @@
 #pragma once
 
+#include <csignal>
+#include <functional>
 #include <mutex>
 #include <thread>
 
 namespace LagomareCli {
 
 /// Ctrl-C and its kin (SIGINT, SIGTERM, SIGHUP, SIGQUIT), for as long as this lives; one at a time, made before any
-/// other thread.
+/// other thread. What the process was started to ignore stays ignored, but
+/// for SIGTERM.
 ///
 /// The first one asks the import to stop, a second one ends the program at once, with exit code 130 and without a
 /// leftover. The signals stay blocked in every thread and one thread waits for them: a blocked signal is kept even
@@ -19,6 +22,9 @@ public:
   Interruption& operator=(const Interruption&) = delete;
 
   [[nodiscard]] bool isRequested() const;
+
+  /// What the first signal does besides: ends what the import waits for. Called on any thread.
+  void whenRequested(std::function<void()> stop);
 
   /// The import is over: from now on the first signal ends the program at once. False where one has asked to stop.
   [[nodiscard]] bool endImport();
@@ -37,6 +43,8 @@ private:
   mutable std::mutex mutex_;
   State state_ = State::importing;
   bool isLeaving_ = false;
+  std::function<void()> stop_ = [] {};
+  sigset_t signals_;
   std::thread thread_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "access/LagomareProjectManager.h"
 #include "access/LineReader.h"
+#include "model/StringUtils.h"
 #include "tools/cli/Failure.h"
 #include "tools/cli/QueryLauncher.h"
 #include "tools/cli/ReadFile.h"
@@ -100,13 +101,18 @@ std::string firstLineOfAnswer() {
   return line;
 }
 
-std::size_t rowOfId(const std::string& idText) {
+std::size_t findRow(std::optional<std::uint32_t> id, std::size_t column, const std::string& text) {
   std::ifstream answer(LagomareProjectManager::fileResultQuery, std::ios::binary);
   Lagomare::LineReader lines(answer);
-  std::size_t row = 1;
-  for (std::string_view line; lines.next(line); ++row)
-    if (line == idText || line.substr(0, line.find(' ')) == idText)
-      return row;
+  std::size_t number = 0;
+  for (std::string_view line; lines.next(line);) {
+    const std::vector<std::string> fields = StringUtils::split(std::string(line), ' ');
+    if (id && fields.front() != std::to_string(*id))
+      continue;
+    ++number;
+    if (column < fields.size() && fields[column] == text)
+      return number;
+  }
   return 0;
 }
 

@@ -3,6 +3,7 @@
 #include "tools/cli/Inputs.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace LagomareCli {
@@ -23,8 +24,9 @@ struct LastQuery {
 
 [[nodiscard]] std::string firstLineOfAnswer();
 
-/// The number, from 1, of the first row whose id reads so; 0 where there is none.
-[[nodiscard]] std::size_t rowOfId(const std::string& idText);
+/// The number, from 1, of the first row whose field of that column, from 0, reads so: among the rows of an id, or among
+/// all. 0 where there is none.
+[[nodiscard]] std::size_t findRow(std::optional<std::uint32_t> id, std::size_t column, const std::string& text);
 
 /// Throws Failure where the launcher was not started for the last query, so that an old answer stands there; once the
 /// channel is closed, where it was never started.

@@ -43,16 +43,28 @@ std::string checkZone(const std::string& text) {
 
 std::string checkPath(const std::string& text) { return text.empty() ? "the path is empty" : ""; }
 
+/// The parser would take the next word for the value.
+void requireValues(int argumentCount, char** arguments) {
+  for (int at = 1; at < argumentCount && std::string_view(arguments[at]) != "--"; ++at) {
+    const std::string_view word = arguments[at];
+    if (word.substr(0, 2) == "--" && word.find('=') == word.size() - 1)
+      throw UsageError(std::string(word) + " lacks its value");
+  }
+}
+
 void addOutputs(CLI::App& command, ImportOptions& options) {
   command.add_option("--json", options.json, "Write the whole scenario; - is standard output")->type_name("FILE");
-  command.add_option("--geojson", options.geojson, "Write the network for a GIS")->type_name("FILE");
+  command.add_option("--geojson", options.geojson, "Write the network for a GIS; - is standard output")
+      ->type_name("FILE");
   command.add_option("--csv", options.csv, "Write elements.csv, links.csv, series.csv and curves.csv into DIR")
       ->type_name("DIR");
 }
 
 void describeImport(CLI::App& command, ImportOptions& options, RawOptions& raw) {
   command.add_option("PROJECT", options.project, "The legacy project's database")->required()->type_name("");
-  command.add_option("--dialect", raw.dialect, "Which dialect to read: auto (asks the database), 2010 or 2013")
+  command
+      .add_option("--dialect", raw.dialect,
+                  "Which dialect to read: auto (the default: asks the database), 2010 or 2013")
       ->type_name("DIALECT")
       ->check(CLI::IsMember({"auto", "2010", "2013"}));
   command
@@ -92,9 +104,11 @@ std::optional<ImportOptions> parseOptions(int argumentCount, char** arguments) {
   CLI::App app("Reads legacy network-modelling projects", "lagomare");
   app.set_version_flag("--version", version);
   app.footer("Example:\n  lagomare import basin.mdb --json basin.json\n\nlagomare import --help tells the options.");
+  app.require_subcommand(0, 1); // a project may be called import
   CLI::App& import = *app.add_subcommand("import", "Import one legacy project and say what it holds");
   import.set_version_flag("--version", version);
   describeImport(import, options, raw);
+  requireValues(argumentCount, arguments);
   try {
     app.parse(argumentCount, arguments);
   } catch (const CLI::Success& wish) { // help or version

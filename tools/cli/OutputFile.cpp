@@ -94,9 +94,23 @@ void OutputFile::finish() {
 void OutputFile::commit() {
   if (!isFinished_ || temporary_.empty())
     return;
+  old_ = temporary_ + '~';
+  const bool isKept = ::link(place_.c_str(), old_.c_str()) == 0;
+  const bool isNew = !isKept && errno == ENOENT;
+  if (isKept)
+    oldLeftover_.emplace([file = old_] { ::unlink(file.c_str()); });
   if (std::rename(temporary_.c_str(), place_.c_str()) != 0)
     fail(errno);
+  undo_ = isKept ? Undo::putOldBack : isNew ? Undo::remove : Undo::nothing;
   leftover_->keep();
+}
+
+void OutputFile::restore() noexcept {
+  if (undo_ == Undo::remove)
+    ::unlink(place_.c_str());
+  else if (undo_ == Undo::putOldBack)
+    std::rename(old_.c_str(), place_.c_str());
+  undo_ = Undo::nothing;
 }
 
 void OutputFile::fail(int error) const { throw Failure("cannot write " + name_ + ": " + systemText(error)); }

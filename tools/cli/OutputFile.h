@@ -25,6 +25,8 @@ public:
   void finish();
   /// Puts the finished file into its place; nothing where it was not finished. Throws Failure.
   void commit();
+  /// Undoes a commit, as far as the file system let the old file be kept.
+  void restore() noexcept;
 
 private:
   void openBeside(unsigned mode);
@@ -36,8 +38,12 @@ private:
   std::string temporary_;       ///< where it is written; empty where it is written directly
   int descriptor_ = -1;
   bool isFinished_ = false;
+  enum class Undo { nothing, remove, putOldBack };
+  Undo undo_ = Undo::nothing;
   std::optional<FileWriter> writer_;
   std::optional<Leftover> leftover_;
+  std::string old_; ///< a second name of the file that was there, while it may be needed again
+  std::optional<Leftover> oldLeftover_;
 };
 
 /// Where a file of that name stands, or would: absolute, links followed, also one to what does not exist.

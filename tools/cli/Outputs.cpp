@@ -65,7 +65,10 @@ OutputFolder::OutputFolder(const std::string& name) {
   if (fs::is_directory(folder, error))
     return;
   if (!fs::create_directory(folder, error))
-    throw Failure("cannot make the folder " + name + ": " + (error ? error.message() : "a file stands there"));
+    throw Failure("cannot make the folder " + name + ": " +
+                  (!error                                          ? "a file stands there"
+                   : error == std::errc::no_such_file_or_directory ? "the folder that it would stand in is not there"
+                                                                   : error.message()));
   leftover_.emplace([folder] {
     std::error_code notEmpty;
     fs::remove(folder, notEmpty);
@@ -107,11 +110,20 @@ void Outputs::write(const Imported& imported) {
 }
 
 void Outputs::commit() {
+  std::vector<OutputFile*> files;
   for (OutputFile& file : csv_)
-    file.commit();
+    files.push_back(&file);
   for (auto* file : {&geojson_, &json_})
     if (*file)
-      (*file)->commit();
+      files.push_back(&**file);
+  try {
+    for (OutputFile* file : files)
+      file->commit();
+  } catch (const Failure&) {
+    for (OutputFile* file : files)
+      file->restore();
+    throw;
+  }
 }
 
 } // namespace LagomareCli

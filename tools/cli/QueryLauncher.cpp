@@ -48,9 +48,11 @@ void redirect(int descriptor, const char* file, int flags) {
   }
 }
 
+/// False, with errno, where it cannot.
 bool writeFile(const std::string& name, const std::string& text) {
   std::error_code error;
   fs::remove(name, error); // whatever a query made of it
+  errno = 0;
   std::ofstream file(name, std::ios::binary);
   file << text;
   file.close();
@@ -86,7 +88,7 @@ std::string joinOwnGroup() {
   sigset_t none;
   sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
-  for (const int signal : {SIGINT, SIGQUIT, SIGPIPE})
+  for (const int signal : {SIGINT, SIGQUIT, SIGPIPE, SIGXFSZ})
     std::signal(signal, SIG_DFL);
   ::execvp(executable.c_str(), words.data());
   const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
@@ -94,8 +96,13 @@ std::string joinOwnGroup() {
   ::_exit(couldNotStart);
 }
 
-/// The exit code of a child process; one that a signal ended leaves a complaint.
+/// The exit code of a child process; one that a signal ended leaves a complaint. What it started and left running ends
+/// too: it could still write into the next answer. Until the child is waited for, its group's number is nobody else's.
 int waitFor(pid_t child) {
+  siginfo_t ended{};
+  while (::waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT) < 0 && errno == EINTR) {
+  }
+  ::kill(-child, SIGKILL);
   int status = 0;
   while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
@@ -131,7 +138,7 @@ PlainNames installLauncher(const fs::path& program, const fs::path& executable, 
     fs::create_symlink(database, databaseName, error);
   if (error || !writeFile(fullDiskFile, errorLine("the disk of the working directory is full")))
     throw Failure("cannot fill the working directory " + fs::current_path().string() + ": " +
-                  (error ? error.message() : systemText(ENOSPC)));
+                  (error ? error.message() : systemText(errno)));
   return {std::string("./") + launcherName, databaseName};
 }
 
