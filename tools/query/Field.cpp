@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
-constexpr std::string_view rowEnd = ".\n"; // the field that the reader discards
+constexpr std::string_view rowEnd = ".\n";     // the field that the reader discards
+constexpr std::ptrdiff_t usualNumberRoom = 32; // bytes
 constexpr std::size_t chunkBytes = AnswerFile::largestRoom / 4;
 
 char* append(char* to, std::string_view bytes) { return std::copy(bytes.begin(), bytes.end(), to); }
@@ -78,11 +79,13 @@ char* writeNumber(char* to, double value) {
     return writeNumber(to, static_cast<std::int64_t>(value));
   if (magnitude < std::numeric_limits<double>::min())
     return append(to, "0"); // subnormal: the reader takes it for out of range
-  return std::to_chars(to, to + numberRoom, value).ptr;
+  return std::to_chars(to, to + numberRoom, value, std::chars_format::fixed).ptr;
 }
 
 void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
-  const std::size_t roomForNumbers = static_cast<std::size_t>(columns) * (numberRoom + 1) + rowEnd.size();
+  // For usual numbers in all columns and an unusual one in one of them.
+  const std::size_t roomForNumbers =
+      static_cast<std::size_t>(columns * (usualNumberRoom + 1)) + numberRoom + rowEnd.size();
   char* to = m_answer.room(roomForNumbers);
   for (int column = 0; column < columns; ++column) {
     sqlite3_value* value = sqlite3_column_value(row, column); // unprotected: read by this thread alone
@@ -90,7 +93,12 @@ void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
     if (type == SQLITE_INTEGER) {
       to = writeNumber(to, std::int64_t{sqlite3_value_int64(value)});
     } else if (type == SQLITE_FLOAT) {
+      const char* begin = to;
       to = writeNumber(to, sqlite3_value_double(value));
+      if (to - begin > usualNumberRoom) {
+        m_answer.taken(to);
+        to = m_answer.room(roomForNumbers);
+      }
     } else if (type != SQLITE_NULL) {
       m_answer.taken(to);
       type == SQLITE_TEXT ? writeText(bytesOf(value, sqlite3_value_text(value)))
