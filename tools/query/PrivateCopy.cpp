@@ -65,7 +65,8 @@ bool PrivateCopy::copyFrom(const fs::path& database) {
     before[i] = FileStamp::of(part(database, parts[i]));
   for (const char* suffix : parts) {
     fs::remove(part(m_copy, suffix));
-    if (fs::exists(part(database, suffix)))
+    std::error_code impossible; // a name that is too long: no such file then
+    if (fs::exists(part(database, suffix), impossible))
       fs::copy_file(part(database, suffix), part(m_copy, suffix));
   }
   for (std::size_t i = 0; i < parts.size(); ++i)

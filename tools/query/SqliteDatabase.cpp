@@ -87,7 +87,8 @@ Database openSqliteDatabase(const fs::path& given) {
   const FileStamp stamp = FileStamp::of(file);
   if (holdsBytes(file, "-wal"))
     return openCopy(file);
-  if (!isWriteAheadMode(file) && !fs::exists(fs::path(file) += "-wal"))
+  std::error_code impossible; // a name that is too long: no such file then
+  if (!isWriteAheadMode(file) && !fs::exists(fs::path(file) += "-wal", impossible))
     return openInPlace(file, "mode=ro", std::nullopt); // SQLite locks it, and notices a hot journal
   // In write-ahead mode SQLite makes files beside the database even to read it, unless told that nothing changes it.
   return holdsBytes(file, "-journal") ? openCopy(file) : openInPlace(file, "mode=ro&immutable=1", stamp);
