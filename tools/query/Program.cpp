@@ -72,8 +72,11 @@ const char* helpFor(const std::vector<std::string>& words) {
 
 int runProgram(const std::vector<std::string>& words) {
   if (const char* help = helpFor(words)) {
-    std::cout << help;
-    return EXIT_SUCCESS;
+    std::cout << help << std::flush;
+    if (std::cout)
+      return EXIT_SUCCESS;
+    std::cerr << "lagomare-query: error: the text cannot be written to standard output\n";
+    return EXIT_FAILURE;
   }
   std::optional<AnswerFile> file;
   std::string reason;
