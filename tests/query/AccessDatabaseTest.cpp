@@ -132,6 +132,19 @@ TEST_F(AccessDatabaseTest, Access97IsRead) {
   EXPECT_NE(refusal(file, "SELECT * FROM Ligada").find("only linked here"), std::string::npos);
 }
 
+/// Columns that would be read as others, or as nothing.
+TEST_F(AccessDatabaseTest, ColumnsWithoutAPlaceOfTheirOwnAreDamage) {
+  constexpr std::size_t column = 127114; // U, the last one of Vazao, in the table's definition
+  const std::string whole = contentOf(sample("example-2010.mdb"));
+  ASSERT_EQ(whole.substr(column + 5, 4), std::string("\3\0\0\0", 4)); // its number and its variable cell
+  for (const auto& [offset, value] : {std::pair(5, 255), {5, 4}, {5, 2}, {21, 4}, {21, 6}}) {
+    std::string bytes = whole;
+    bytes[column + static_cast<std::size_t>(offset)] = static_cast<char>(value);
+    writeFile("damaged.mdb", bytes);
+    EXPECT_NE(refusal("damaged.mdb", "SELECT * FROM Vazao").find("table Vazao"), std::string::npos) << value;
+  }
+}
+
 TEST_F(AccessDatabaseTest, TheEnvironmentChangesNothing) {
   const std::string expected = answer(sample("jet3.mdb"), "SELECT * FROM Nós");
   setenv("MDBICONV", "UTF-16", 1);

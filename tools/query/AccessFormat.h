@@ -11,6 +11,7 @@ struct AccessFormat {
 
   // Table definitions: from the beginning of their first page.
   std::size_t rowCount;
+  std::size_t endOfColumnNumbers; // deleted columns counted
   std::size_t variableColumnCount;
   std::size_t columnCount;
   std::size_t indexCount; // of those that take an entry before the columns
@@ -32,9 +33,10 @@ struct AccessFormat {
 };
 
 /// Access 97.
-inline constexpr AccessFormat jet3Format = {2048, 8, 12, 23, 25, 31, 35, 43, 8, 18, 1, 3, 10, 13, 14, 16, 1, false};
+inline constexpr AccessFormat jet3Format = {2048, 8, 12, 21, 23, 25, 31, 35, 43, 8, 18, 1, 3, 10, 13, 14, 16, 1, false};
 
 /// Access 2000 and later, .accdb included.
-inline constexpr AccessFormat jet4Format = {4096, 12, 16, 43, 45, 51, 55, 63, 12, 25, 5, 7, 12, 15, 21, 23, 2, true};
+inline constexpr AccessFormat jet4Format = {4096, 12, 16, 41, 43, 45, 51, 55, 63,  12,
+                                            25,   5,  7,  12, 15, 21, 23, 2,  true};
 
 } // namespace LagomareQuery

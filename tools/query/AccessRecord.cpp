@@ -4,32 +4,6 @@ namespace LagomareQuery {
 
 namespace {
 
-/// Bytes that a cell of a fixed column takes, whatever its definition says; that size where the type has none.
-std::size_t fixedSize(const AccessColumn& column) {
-  switch (column.type) {
-  case AccessType::truth:
-    return 0;
-  case AccessType::byte:
-    return 1;
-  case AccessType::integer16:
-    return 2;
-  case AccessType::integer32:
-  case AccessType::single:
-    return 4;
-  case AccessType::currency:
-  case AccessType::real:
-  case AccessType::dateTime:
-  case AccessType::integer64:
-    return 8;
-  case AccessType::guid:
-    return 16;
-  case AccessType::decimal:
-    return 17;
-  default:
-    return column.size;
-  }
-}
-
 std::size_t count(AccessBytes bytes, std::size_t offset, const AccessFormat& format) {
   return format.countSize == 1 ? bytes.u8(offset) : bytes.u16(offset);
 }

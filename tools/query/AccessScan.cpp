@@ -1,5 +1,7 @@
 #include "tools/query/AccessScan.h"
 
+#include "tools/query/AccessRow.h"
+
 namespace LagomareQuery {
 
 bool AccessScan::next() {

@@ -1,7 +1,6 @@
 #include "tools/query/AccessTable.h"
 
 #include "tools/query/AccessUsageMap.h"
-#include <algorithm>
 
 namespace LagomareQuery {
 
@@ -11,7 +10,6 @@ constexpr std::size_t pageHeader = 8;
 constexpr std::size_t nextPageOffset = 4; // of table definitions
 constexpr std::size_t ownerOffset = 4;    // of data pages: the table's definition page
 constexpr std::size_t mostDefinitionPages = 256;
-constexpr std::size_t mostColumns = 255;
 
 /// The definition's bytes from all of its pages, as if they stood on one.
 std::vector<std::uint8_t> definitionBytes(const AccessFile& file, std::uint32_t pageNumber) {
@@ -28,40 +26,6 @@ std::vector<std::uint8_t> definitionBytes(const AccessFile& file, std::uint32_t 
     pageNumber = page.bytes().u32(nextPageOffset);
   }
   return bytes;
-}
-
-AccessColumn readColumn(AccessBytes entry, const AccessFormat& format) {
-  constexpr std::uint8_t fixedFlag = 0x01;
-  constexpr std::uint8_t calculatedFlags = 0xC0;
-  AccessColumn column{};
-  column.type = static_cast<AccessType>(entry.u8(0));
-  column.number = format.countSize == 1 ? entry.u8(format.columnNumber) : entry.u16(format.columnNumber);
-  column.variableIndex = entry.u16(format.variableIndex);
-  column.scale = entry.u8(format.scale);
-  column.fixed = (entry.u8(format.columnFlags) & fixedFlag) != 0;
-  column.calculated = format.utf16 && (entry.u8(format.columnFlags + 1) & calculatedFlags) != 0;
-  column.fixedOffset = entry.u16(format.fixedOffset);
-  column.size = column.type == AccessType::truth ? std::uint16_t{0} : entry.u16(format.columnSize);
-  return column;
-}
-
-std::vector<AccessColumn> readColumns(const AccessFile& file, AccessBytes definition) {
-  const AccessFormat& format = file.format();
-  const std::size_t count = definition.u16(format.columnCount);
-  if (count == 0 || count > mostColumns)
-    throwDamaged("a table with " + std::to_string(count) + " columns");
-  std::size_t position = format.indexEntries + definition.u32(format.indexCount) * format.indexEntrySize;
-  std::vector<AccessColumn> columns;
-  for (std::size_t i = 0; i < count; ++i, position += format.columnEntrySize)
-    columns.push_back(readColumn(definition.part(position, format.columnEntrySize), format));
-  for (AccessColumn& column : columns) {
-    const std::size_t length = format.countSize == 1 ? definition.u8(position) : definition.u16(position);
-    file.appendText(definition.part(position + format.countSize, length), column.name);
-    position += format.countSize + length;
-  }
-  std::stable_sort(columns.begin(), columns.end(),
-                   [](const AccessColumn& left, const AccessColumn& right) { return left.number < right.number; });
-  return columns;
 }
 
 std::size_t liveRows(const AccessPage& page, const AccessFormat& format) {
@@ -104,7 +68,7 @@ AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t de
   table.name = std::move(name);
   table.rowCount = definition.u32(format.rowCount);
   table.hasVariableColumns = definition.u16(format.variableColumnCount) != 0;
-  table.columns = readColumns(file, definition);
+  table.columns = readColumns(file, table.name, definition);
   table.dataPages = dataPages(file, table, definitionPage, AccessRowId::stored(definition.u32(format.usageMap)));
   return table;
 }
