@@ -68,6 +68,11 @@ const char* helpFor(const std::vector<std::string>& words) {
   return words[0] == "--version" ? "lagomare-query " LAGOMARE_VERSION "\n" : nullptr;
 }
 
+int failure(const std::string& reason) {
+  std::cerr << "lagomare-query: error: " << inOneLine(reason) << '\n';
+  return EXIT_FAILURE;
+}
+
 } // namespace
 
 int runProgram(const std::vector<std::string>& words) {
@@ -75,8 +80,7 @@ int runProgram(const std::vector<std::string>& words) {
     std::cout << help << std::flush;
     if (std::cout)
       return EXIT_SUCCESS;
-    std::cerr << "lagomare-query: error: the text cannot be written to standard output\n";
-    return EXIT_FAILURE;
+    return failure("standard output cannot be written");
   }
   std::optional<AnswerFile> file;
   std::string reason;
@@ -92,8 +96,7 @@ int runProgram(const std::vector<std::string>& words) {
   }
   if (file)
     file->fail(reason);
-  std::cerr << "lagomare-query: error: " << inOneLine(reason) << '\n';
-  return EXIT_FAILURE;
+  return failure(reason);
 }
 
 } // namespace LagomareQuery
