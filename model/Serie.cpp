@@ -22,6 +22,14 @@ void Serie::fill(double value, const Interval& interval) {
     return;
   const std::size_t firstStep = stepOf(interval.getBegin());
   const std::size_t lastStep = stepOf(interval.getEnd());
+  const bool isAllCovered = firstStep <= firstStep_ && firstStep_ + numOfSteps() <= lastStep + 1;
+  if (numOfSteps() == 0 || isAllCovered) {
+    std::vector<double>().swap(values_);
+    firstStep_ = firstStep;
+    stepsAlike_ = lastStep - firstStep + 1;
+    valueAlike_ = value;
+    return;
+  }
   cover(firstStep, lastStep);
   const auto first = values_.begin() + static_cast<std::ptrdiff_t>(firstStep - firstStep_);
   std::fill(first, first + static_cast<std::ptrdiff_t>(lastStep - firstStep + 1), value);
@@ -30,6 +38,8 @@ void Serie::fill(double value, const Interval& interval) {
 /// Widens the values, with 0.0, until they hold both steps. To the front they at least double, so that writing
 /// backwards in time costs no more than forwards.
 void Serie::cover(std::size_t firstStep, std::size_t lastStep) {
+  values_.resize(numOfSteps(), valueAlike_);
+  stepsAlike_ = 0;
   if (values_.empty())
     firstStep_ = firstStep;
   if (firstStep < firstStep_) {

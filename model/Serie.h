@@ -32,18 +32,25 @@ private:
   [[nodiscard]] static std::size_t stepOf(const Date& date) {
     return std::size_t{date.getYear()} * 12U + date.getMonth();
   }
+  [[nodiscard]] std::size_t numOfSteps() const { return values_.size() + stepsAlike_; }
   void cover(std::size_t firstStep, std::size_t lastStep);
 
   Interval interval_;
   Enum<SerieType> type_;
   Enum<Unit> unit_;
-  std::size_t firstStep_ = 0;  ///< the step of values_[0]
-  std::vector<double> values_; ///< dense from the first step covered to the last
+  // Dense from the first step covered to the last, or, while these are all alike, one value for all of them: the limits
+  // and losses of a large network's links would else fill a third of its memory.
+  std::size_t firstStep_ = 0;
+  std::vector<double> values_;
+  std::size_t stepsAlike_ = 0;
+  double valueAlike_ = 0.0;
 };
 
 inline double Serie::getValue(const Date& date) const {
   const std::size_t index = stepOf(date) - firstStep_; // a step before the first wraps to beyond the last
-  return index < values_.size() ? values_[index] : 0.0;
+  if (index < values_.size())
+    return values_[index];
+  return index < stepsAlike_ ? valueAlike_ : 0.0;
 }
 
 inline void Serie::setValue(const Date& date, double value) {

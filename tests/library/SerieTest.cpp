@@ -40,6 +40,11 @@ TEST_F(SerieTest, IsFilledOverAnInterval) {
   EXPECT_THAT((std::vector{at(1999, 11), at(1999, 12), at(2000, 1), at(2000, 2), at(2000, 12), at(2001, 1)}),
               ElementsAre(0, 3, 3, 2, 2, 0));
   EXPECT_EQ(serie.getInterval().getBegin(), Date(2000, 1, 1));
+  serie.fill(6.0, Interval(Date(1999, 12, 1), Date(2001, 1, 1), MonthlyType()));
+  serie.setValue(Date(2000, 3, 1), 7.0);
+  EXPECT_THAT((std::vector{at(1999, 11), at(1999, 12), at(2000, 2), at(2000, 3), at(2001, 1), at(2001, 2)}),
+              ElementsAre(0, 6, 6, 7, 6, 0));
+  serie.fill(3.0, Interval(Date(1999, 12, 1), Date(2001, 1, 1), MonthlyType()));
   serie.fill(5.0);
   EXPECT_EQ(at(1999, 12), 3.0);
   EXPECT_EQ(at(2000, 12), 5.0);
