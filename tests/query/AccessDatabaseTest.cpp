@@ -145,11 +145,14 @@ TEST_F(AccessDatabaseTest, ColumnsWithoutAPlaceOfTheirOwnAreDamage) {
   }
 }
 
-TEST_F(AccessDatabaseTest, TheEnvironmentChangesNothing) {
+TEST_F(AccessDatabaseTest, TheEnvironmentChangesNoAnswer) {
   const std::string expected = answer(sample("jet3.mdb"), "SELECT * FROM Nós");
   setenv("MDBICONV", "UTF-16", 1);
   setenv("MDBOPTS", "debug_row:debug_usage", 1);
   EXPECT_EQ(answer(sample("jet3.mdb"), "SELECT * FROM Nós"), expected);
+  setenv("MDB_JET3_CHARSET", "nonsense", 1);
+  EXPECT_NE(refusal(sample("jet3.mdb"), "SELECT 1").find("character set"), std::string::npos);
+  unsetenv("MDB_JET3_CHARSET");
 }
 
 } // namespace

@@ -37,8 +37,18 @@ int versionOf(const std::filesystem::path& file) {
   const int version = stream.get();
   if (version < 0 || version > lastVersion)
     throw QueryError("the Access database is damaged, or of a version later than 2019 (" + std::to_string(version) +
-                     ")");
+                     "); open it with Access and save it as .accdb, or as .mdb of 2000-2003");
   return version;
+}
+
+/// libmdb leaves texts unreadable, and says nothing, where it does not know how they are encoded.
+void requireKnownCharacterSet(const AccessFile& file) {
+  const std::uint8_t letter = 'A';
+  std::string text;
+  file.appendText({&letter, sizeof letter}, text);
+  if (text != "A")
+    throw QueryError("the character set of the database's texts is unknown here; set MDB_JET3_CHARSET to one that is "
+                     "known, like CP1252");
 }
 
 } // namespace
@@ -66,6 +76,8 @@ AccessFile::AccessFile(const std::filesystem::path& file)
   m_handle = std::make_unique<Handle>(mdb);
   if (mdb->f->jet_version > MDB_VER_JET4 && mdb->f->db_key != 0)
     throw QueryError("the Access database is encrypted; remove its password first");
+  if (!m_format->utf16)
+    requireKnownCharacterSet(*this);
 }
 
 AccessFile::~AccessFile() = default;
