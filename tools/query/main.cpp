@@ -3,7 +3,8 @@
 
 int main(int count, char** arguments) {
 #ifdef SIGXFSZ
-  std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error like a full disk, not the end
+  static_cast<void>(
+      std::signal(SIGXFSZ, SIG_IGN)); // a file that may not grow is an error like a full disk, not the end
 #endif
   return LagomareQuery::runProgram({arguments + 1, arguments + count});
 }
