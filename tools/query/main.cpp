@@ -3,8 +3,8 @@
 
 int main(int count, char** arguments) {
 #ifdef SIGXFSZ
-  static_cast<void>(
-      std::signal(SIGXFSZ, SIG_IGN)); // a file that may not grow is an error like a full disk, not the end
+  // A file that may not grow any more is an error like a full disk, not the program's end.
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 #endif
   return LagomareQuery::runProgram({arguments + 1, arguments + count});
 }
