@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 const std::string LagomareProjectManager::scriptFile = "script.bat";
 const std::string LagomareProjectManager::fileResultQuery = "query-result.txt";
@@ -30,11 +31,11 @@ void LagomareProjectManager::cleanInstance() {
   lagomareProjectManager = nullptr;
 }
 
-LagomareProjectManager::LagomareProjectManager(const std::string& databaseFile) : databaseFilename(databaseFile) {}
+LagomareProjectManager::LagomareProjectManager(std::string databaseFile) : databaseFilename(std::move(databaseFile)) {}
 
 LagomareProjectManager::~LagomareProjectManager() {
-  std::remove(scriptFile.c_str());
-  std::remove(fileResultQuery.c_str());
+  static_cast<void>(std::remove(scriptFile.c_str())); // it may never have been written
+  static_cast<void>(std::remove(fileResultQuery.c_str()));
 }
 
 void LagomareProjectManager::setApiExecutable(const std::string& path) { apiExecutable = path; }

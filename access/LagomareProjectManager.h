@@ -43,7 +43,7 @@ public:
   [[nodiscard]] ValueResult queryValues(const std::string& sql, bool flag) const;
 
 private:
-  explicit LagomareProjectManager(const std::string& databaseFilename);
+  explicit LagomareProjectManager(std::string databaseFilename);
   ~LagomareProjectManager();
 
   /// Runs one query and opens its answer.

@@ -46,7 +46,7 @@ void tellHowToEnd() {
 Interruption::Interruption() : signals_(signalsNotIgnored()) {
   ::pthread_sigmask(SIG_BLOCK, &signals_, nullptr);
   for (const int signal : terminalSignals)
-    std::signal(signal, SIG_IGN);
+    static_cast<void>(std::signal(signal, SIG_IGN));
   thread_ = std::thread([this] { waitForSignals(); });
 }
 

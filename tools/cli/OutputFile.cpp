@@ -109,7 +109,7 @@ void OutputFile::restore() noexcept {
   if (undo_ == Undo::remove)
     ::unlink(place_.c_str());
   else if (undo_ == Undo::putOldBack)
-    std::rename(old_.c_str(), place_.c_str());
+    static_cast<void>(std::rename(old_.c_str(), place_.c_str()) != 0); // nothing more can be done
   undo_ = Undo::nothing;
 }
 

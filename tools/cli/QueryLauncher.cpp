@@ -89,7 +89,7 @@ std::string joinOwnGroup() {
   sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
   for (const int signal : {SIGINT, SIGQUIT, SIGPIPE, SIGXFSZ})
-    std::signal(signal, SIG_DFL);
+    static_cast<void>(std::signal(signal, SIG_DFL));
   ::execvp(executable.c_str(), words.data());
   const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
   static_cast<void>(::write(STDERR_FILENO, complaint.data(), complaint.size()) < 0);
@@ -165,7 +165,7 @@ int launchQuery(char** arguments) {
 void stopQuery(const fs::path& directory) {
   std::error_code error;
   fs::remove(directory / executableLink, error);
-  const long group = std::atol(readFile(directory / groupFile).c_str());
+  const long group = std::strtol(readFile(directory / groupFile).c_str(), nullptr, 10);
   if (group > 1)
     ::kill(static_cast<pid_t>(-group), SIGKILL);
 }
