@@ -13,6 +13,7 @@ const std::string LagomareProjectManager::fileResultQuery = "query-result.txt";
 const std::string LagomareProjectManager::elementBdIdField1 = "NumPto";
 const std::string LagomareProjectManager::elementBdIdField2 = "NumPonto";
 LagomareProjectManager* LagomareProjectManager::lagomareProjectManager = nullptr;
+std::size_t LagomareProjectManager::numOfQueries = 0;
 
 LagomareProjectManager* LagomareProjectManager::getInstance(const std::string& databaseFilename) {
   if (lagomareProjectManager == nullptr)
@@ -30,6 +31,8 @@ void LagomareProjectManager::cleanInstance() {
   delete lagomareProjectManager;
   lagomareProjectManager = nullptr;
 }
+
+std::size_t LagomareProjectManager::getNumOfQueries() { return numOfQueries; }
 
 LagomareProjectManager::LagomareProjectManager(std::string databaseFile) : databaseFilename(std::move(databaseFile)) {}
 
@@ -56,6 +59,7 @@ ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool fla
 }
 
 std::ifstream LagomareProjectManager::ask(const std::string& sql, bool flag) const {
+  ++numOfQueries;
   buildScript(sql, flag);
   Lagomare::runScript(scriptFile);
   return std::ifstream(fileResultQuery, std::ios::binary);

@@ -4,6 +4,7 @@
 #include "access/ValueResult.h"
 #include "lagomare_export.h"
 
+#include <cstddef>
 #include <iosfwd>
 #include <string>
 
@@ -27,6 +28,9 @@ public:
   /// Destroys the channel, if any, and with it the two files.
   static void cleanInstance();
 
+  /// How many queries this process has sent so far, for whoever wants to know whether each was answered.
+  [[nodiscard]] static std::size_t getNumOfQueries();
+
   LagomareProjectManager(const LagomareProjectManager&) = delete;
   LagomareProjectManager& operator=(const LagomareProjectManager&) = delete;
 
@@ -48,6 +52,8 @@ private:
 
   /// Runs one query and opens its answer.
   [[nodiscard]] std::ifstream ask(const std::string& sql, bool flag) const;
+
+  static std::size_t numOfQueries;
 
   std::string databaseFilename;
   std::string apiExecutable;

@@ -20,8 +20,8 @@ bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// A number's text without its leading white space and its sign.
-struct Unsigned {
-  explicit Unsigned(std::string_view text) : digits(text) {
+struct SignAndDigits {
+  explicit SignAndDigits(std::string_view text) : digits(text) {
     while (!digits.empty() && isSpace(digits.front()))
       digits.remove_prefix(1);
     if (!digits.empty() && (digits.front() == '-' || digits.front() == '+')) {
@@ -91,7 +91,7 @@ Reading readMagnitude(std::string_view digits) {
 Reading readNumber(std::string_view text) {
   if (const auto plain = readPlainDecimal(text))
     return {*plain, {}};
-  const Unsigned number(text);
+  const SignAndDigits number(text);
   const Reading magnitude = readMagnitude(number.digits);
   return {number.isNegative ? -magnitude.value : magnitude.value, magnitude.error};
 }
@@ -115,7 +115,7 @@ Integer truncate(std::string_view text) {
 } // namespace
 
 std::uint32_t toUnsigned(std::string_view text) {
-  const Unsigned number(text);
+  const SignAndDigits number(text);
   std::uint32_t magnitude = 0;
   const char* const end = number.digits.data() + number.digits.size();
   const std::errc error = std::from_chars(number.digits.data(), end, magnitude).ec;

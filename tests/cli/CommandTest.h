@@ -22,7 +22,7 @@ protected:
   /// Runs `lagomare import` with these words.
   [[nodiscard]] static Ending import(const std::vector<std::string>& words) { return run(importing(words)); }
 
-  /// A query executable: a shell script that may end in "$answer" to have the bundled one answer.
+  /// A query executable: a shell script that may call answer "$@" to have the bundled one answer.
   static std::string executable(const std::string& script, const std::string& name = "own query");
 
   [[nodiscard]] static std::vector<std::string> leftovers();

@@ -31,7 +31,8 @@ TEST_F(ErrorReportTest, SaysWhatWhereAndHowToMendIt) {
       {"insert into LgmFrontEH values (2, 'half')", "table LgmFrontEH: row 1 of the id 2, column Valor holds \"half\""},
       {"update Tk_Gerais set DataHoraIni = null", "row 1, column DataHoraIni is empty where a date must stand"},
       {"update Tk_Gerais set Duracao = null", "table Tk_Gerais: row 1, column Duracao is empty where a whole"},
-      {"insert into LgmDemPrior values (2, 1, 5)", "table LgmDemPrior: a row has the id 2, which is no demand's;"},
+      {"insert into LgmDemPrior values (2, 1, 5)",
+       "table LgmDemPrior: a row has the id 2, which is a reservoir's and no demand's;"},
       {"update LgmResPrior set Valor = -2", "\"-2\", which does not fit: a priority has 32 bits, one of a state no"},
       {"update Tk_Gerais set Duracao = 0", "period is empty: its duration, column Duracao of table Tk_Gerais, is 0"},
       {"update Tk_Gerais set Duracao = 9000", "years from 2000 leads past the year 9999; correct the project's start"},
@@ -56,9 +57,24 @@ TEST_F(ErrorReportTest, TellsTheDialectsApart) {
   // A question that fails is no answer.
   runSql("basin.db", "drop table DefGerais; create view DefGerais as select unknown() as a");
   EXPECT_THAT(errorOf({"basin.db"}), HasSubstr("cannot be found out: "));
-  EXPECT_THAT(errorOf({"basin.db", "--query-executable", executable("exit")}), HasSubstr("own query did not answer"));
   runSql("basin.db", "drop view DefGerais; drop table Tk_Gerais");
   EXPECT_THAT(errorOf({"basin.db"}), HasSubstr("holds neither the table DefGerais (dialect 2010) nor Tk_Gerais"));
+}
+
+TEST_F(ErrorReportTest, OfAnExecutableOfOnesOwnAMissingTableIsToldOrSilent) {
+  project();
+  const std::string count2010 = "case \"$2\" in *count*DefGerais) ";
+  for (const std::string missing : {"exit 1", "> query-result.txt", "echo no DefGerais >&2; > query-result.txt"})
+    EXPECT_EQ(import({"basin.db", "--quiet", "--query-executable",
+                      executable(count2010 + missing + "; exit;; esac; answer \"$@\"")})
+                  .exitCode,
+              0)
+        << missing;
+  const std::string repeats = "echo \"error: locked: $2 .\" > query-result.txt";
+  EXPECT_THAT(
+      errorOf({"basin.db", "--query-executable", executable(count2010 + repeats + "; exit;; esac; answer \"$@\"")}),
+      HasSubstr("cannot be found out: locked"));
+  EXPECT_THAT(errorOf({"basin.db", "--query-executable", executable("exit")}), HasSubstr("own query did not answer"));
 }
 
 TEST_F(ErrorReportTest, SaysWhyAFileCannotBeOpened) {

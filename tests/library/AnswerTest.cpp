@@ -90,6 +90,18 @@ TEST(AnswerTest, ThrowsForALineWithoutAnId) {
     EXPECT_THAT([text] { static_cast<void>(rowsOf(text)); }, ThrowsMessage<FieldOutOfRange>("stoul")) << text;
 }
 
+TEST(AnswerTest, MayBeLargerThanTheBlocksThatAreRead) {
+  std::string text;
+  for (int row = 0; text.size() < 300000; ++row)
+    text += std::to_string(row / 100) + " 3.5" + std::string(static_cast<std::size_t>(row % 7), '0') + " .\n";
+  text += "9999 " + std::string(200000, 'x') + " .";
+  for (int shift = 0; shift < 40; ++shift) { // so that blocks end anywhere in a line
+    expectAsNaive(text);
+    expectSameValues(text);
+    text.insert(0, "\n");
+  }
+}
+
 TEST(AnswerTest, IsReadAsByANaiveReader) {
   static const std::vector<std::string> pieces{"1", "2",  "10", "9",  "007",  "3.5",  "2e3", "x",    " ",       " ",
                                                " ", " .", "\n", "\n", " .\n", " .\n", "\r",  "\r\n", "\xC2\xA0"};

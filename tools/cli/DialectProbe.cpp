@@ -11,36 +11,57 @@ namespace LagomareCli {
 
 namespace {
 
-/// What came of asking for a table.
 enum class Finding { held, missing, silence, failure };
 
+/// What came of asking for a table.
 struct Probe {
   Finding finding;
-  std::string refusal; ///< why the table is not held, as the query executable says
+  std::string refusal; ///< why it is not held, in the query executable's words
 };
 
-/// Executables of one's own say in their own words that a table is missing, or say nothing.
-Finding findingOf(const std::string& refusal, const std::string& table, const Inputs& inputs) {
-  const std::string mark = inputs.isOwnExecutable ? table : "no such table";
-  if (refusal.find(mark) != std::string::npos)
+std::string without(std::string text, const std::string& part) {
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part))
+    text.erase(at, part.size());
+  return text;
+}
+
+/// Executables of one's own say in their own words that a table is missing, or say nothing. Some repeat the SQL.
+Finding findingOf(const std::string& refusal, const std::string& sql, const std::string& table, bool isOwnExecutable) {
+  const std::string complaint = lastQueryComplaint();
+  const std::string mark = isOwnExecutable ? table : "no such table";
+  if (without(refusal + ' ' + complaint, sql).find(mark) != std::string::npos)
     return Finding::missing;
-  return inputs.isOwnExecutable && lastQueryComplaint().empty() ? Finding::silence : Finding::failure;
+  const std::string answer = firstLineOfAnswer();
+  const bool isSilent = complaint.empty() && (answer.empty() || answer.find(noAnswer) != std::string::npos);
+  return isOwnExecutable && isSilent ? Finding::silence : Finding::failure;
+}
+
+/// Why the count was not answered.
+std::string refusalOfCount(const Inputs& inputs, const std::string& plainDatabase) {
+  const std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
+  if (!refusal.empty())
+    return refusal;
+  const std::string answer = firstLineOfAnswer();
+  const std::string complaint = lastQueryComplaint();
+  return "the query executable answered \"" + excerpt(answer) +
+         "\", which is no row: a number, a blank, one field more" + (complaint.empty() ? "" : "; it says " + complaint);
 }
 
 /// The count makes one row of an empty table too.
-Probe probe(Dialect dialect, const Inputs& inputs, const std::string& plainDatabase) {
+Probe askFor(Dialect dialect, const Inputs& inputs, const std::string& plainDatabase) {
   const std::string table = settingsTableOf(dialect);
+  const std::string sql = "select count(*) from " + table;
   try {
-    const auto count = LagomareProjectManager::getInstance()->query("select count(*) from " + table, false);
-    requireLaunched();
-    return {count.empty() ? Finding::failure : Finding::held, "the query executable's answer to a count is empty"};
+    if (!LagomareProjectManager::getInstance()->query(sql, false).empty()) {
+      requireLaunched();
+      return {Finding::held, ""};
+    }
   } catch (const FieldError&) {
-    const std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
-    if (refusal.empty())
-      return {Finding::failure, "the query executable answered \"" + excerpt(firstLineOfAnswer()) +
-                                    "\", which is no row: a number, a blank, one field more"};
-    return {findingOf(refusal, table, inputs), refusal};
+    // No row either.
   }
+  requireLaunched();
+  const std::string refusal = refusalOfCount(inputs, plainDatabase);
+  return {findingOf(refusal, sql, table, inputs.isOwnExecutable), refusal};
 }
 
 std::string namesOfBoth(const char* conjunction) {
@@ -48,20 +69,17 @@ std::string namesOfBoth(const char* conjunction) {
          settingsTableOf(Dialect::of2013) + " (dialect 2013)";
 }
 
-[[noreturn]] void failUnknown(const Probe& probe, const std::string& project) {
-  throw Failure(project + ": which it holds, " + namesOfBoth("or") + ", cannot be found out: " + probe.refusal);
-}
-
 } // namespace
 
 Dialect findDialect(const Inputs& inputs, const std::string& plainDatabase) {
-  const Probe probe2010 = probe(Dialect::of2010, inputs, plainDatabase);
-  const Probe probe2013 = probe(Dialect::of2013, inputs, plainDatabase);
-  const bool is2010 = probe2010.finding == Finding::held;
-  const bool is2013 = probe2013.finding == Finding::held;
-  for (const Probe& probe : {probe2010, probe2013})
+  const Probe of2010 = askFor(Dialect::of2010, inputs, plainDatabase);
+  const Probe of2013 = askFor(Dialect::of2013, inputs, plainDatabase);
+  const bool is2010 = of2010.finding == Finding::held;
+  const bool is2013 = of2013.finding == Finding::held;
+  for (const Probe& probe : {of2010, of2013})
     if (probe.finding == Finding::failure || (probe.finding == Finding::silence && !is2010 && !is2013))
-      failUnknown(probe, inputs.projectName);
+      throw Failure(inputs.projectName + ": which it holds, " + namesOfBoth("or") +
+                    ", cannot be found out: " + probe.refusal + "; --dialect says which to read");
   if (is2010 && is2013)
     throw Failure(inputs.projectName + ": holds both " + namesOfBoth("and") + "; say which to read with --dialect");
   if (!is2010 && !is2013)

@@ -109,11 +109,11 @@ std::string hintForOwnExecutable(const ImportPlace& place) {
 }
 
 /// The row that the library's error does not tell.
-std::string oddRow(const std::string& what, const LastQuery& query, const ImportPlace& place) {
+std::string oddRow(const std::string& what, const ImportPlace& place) {
   try {
     if (what.find(": invalid ") != std::string::npos)
       return findBrokenLink(place.dialect);
-    return what.compare(0, otherKind.size(), otherKind) == 0 ? findOtherKind(place.dialect, query.table) : "";
+    return what.compare(0, otherKind.size(), otherKind) == 0 ? findReservoir(place.dialect) : "";
   } catch (const std::exception&) {
     return ""; // the first error counts
   }
@@ -126,7 +126,7 @@ std::string faultText(const std::exception& error, const LastQuery& query, const
   if (const auto* field = dynamic_cast<const FieldError*>(&error))
     return describeField(*field, error, query) + hintForOwnExecutable(place);
   const std::string what = error.what();
-  const std::string row = oddRow(what, query, place);
+  const std::string row = oddRow(what, place);
   return row.empty() ? explained(what) : row;
 }
 

@@ -117,9 +117,7 @@ std::size_t findRow(std::optional<std::uint32_t> id, std::size_t column, const s
 }
 
 void requireLaunched() {
-  const std::string launched = lastLaunchedSql();
-  const bool isChannelOpen = std::filesystem::exists(LagomareProjectManager::scriptFile);
-  if (launched.empty() || (isChannelOpen && launched != sqlOfScript()))
+  if (numOfLaunches() != LagomareProjectManager::getNumOfQueries())
     throw Failure("a query could not be started; look for a full disk under TMPDIR, for what removes files there, and "
                   "for limits of memory and of the number of processes");
 }

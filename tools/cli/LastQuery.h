@@ -28,8 +28,7 @@ struct LastQuery {
 /// all. 0 where there is none.
 [[nodiscard]] std::size_t findRow(std::optional<std::uint32_t> id, std::size_t column, const std::string& text);
 
-/// Throws Failure where the launcher was not started for the last query, so that an old answer stands there; once the
-/// channel is closed, where it was never started.
+/// Throws Failure where the launcher was not started for a query, which an old answer has answered then.
 void requireLaunched();
 
 } // namespace LagomareCli

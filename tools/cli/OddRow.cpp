@@ -6,7 +6,6 @@
 #include "elements/2010/ElementBdIdFactory.h"
 #include "elements/2013/ElementBdIdFactory.h"
 
-#include <array>
 #include <fstream>
 #include <set>
 
@@ -16,7 +15,6 @@ namespace {
 
 constexpr std::size_t upstreamColumn = 2;
 constexpr std::size_t downstreamColumn = 3;
-constexpr std::array<ElementType, 3> nodeKinds{ElementType::Reservoir, ElementType::HumanDemand, ElementType::Junction};
 
 QueryResult lastAnswer() {
   std::ifstream answer(LagomareProjectManager::fileResultQuery, std::ios::binary);
@@ -34,7 +32,7 @@ std::set<unsigned> idsOf(ElementType kind, Dialect dialect) {
 std::string findBrokenLink(Dialect dialect) {
   const QueryResult links = lastAnswer();
   std::set<unsigned> nodes;
-  for (const ElementType kind : nodeKinds)
+  for (const ElementType kind : {ElementType::Reservoir, ElementType::HumanDemand, ElementType::Junction})
     nodes.merge(idsOf(kind, dialect));
   for (const auto& [id, rows] : links)
     for (const std::size_t column : {upstreamColumn, downstreamColumn})
@@ -44,16 +42,11 @@ std::string findBrokenLink(Dialect dialect) {
   return "";
 }
 
-std::string findOtherKind(Dialect dialect, const std::string& table) {
+std::string findReservoir(Dialect dialect) {
   const QueryResult rows = lastAnswer();
-  const bool isOfDemands = table.find("Dem") != std::string::npos;
-  const ElementType kindOfTable = isOfDemands ? ElementType::HumanDemand : ElementType::Reservoir;
-  for (const ElementType kind : nodeKinds)
-    if (kind != kindOfTable)
-      for (const unsigned id : idsOf(kind, dialect))
-        if (rows.count(id) != 0)
-          return "a row has the id " + std::to_string(id) + ", which is no " + (isOfDemands ? "demand" : "reservoir") +
-                 "'s; remove that row";
+  for (const unsigned id : idsOf(ElementType::Reservoir, dialect))
+    if (rows.count(id) != 0)
+      return "a row has the id " + std::to_string(id) + ", which is a reservoir's and no demand's; remove that row";
   return "";
 }
 

@@ -10,7 +10,8 @@ namespace LagomareCli {
 /// A link that ends at a node that the project lacks.
 [[nodiscard]] std::string findBrokenLink(Dialect dialect);
 
-/// A row with the id of an element of another kind than the table is for.
-[[nodiscard]] std::string findOtherKind(Dialect dialect, const std::string& table);
+/// A row with a reservoir's id in a table of demands, the one kind of element that has other settings than the table's
+/// and is in the scenario by then.
+[[nodiscard]] std::string findReservoir(Dialect dialect);
 
 } // namespace LagomareCli

@@ -94,11 +94,11 @@ void OutputFile::finish() {
 void OutputFile::commit() {
   if (!isFinished_ || temporary_.empty())
     return;
-  old_ = temporary_ + '~';
-  const bool isKept = ::link(place_.c_str(), old_.c_str()) == 0;
+  replaced_ = temporary_ + '~';
+  const bool isKept = ::link(place_.c_str(), replaced_.c_str()) == 0;
   const bool isNew = !isKept && errno == ENOENT;
   if (isKept)
-    oldLeftover_.emplace([file = old_] { ::unlink(file.c_str()); });
+    replacedLeftover_.emplace([file = replaced_] { ::unlink(file.c_str()); });
   if (std::rename(temporary_.c_str(), place_.c_str()) != 0)
     fail(errno);
   undo_ = isKept ? Undo::putOldBack : isNew ? Undo::remove : Undo::nothing;
@@ -109,7 +109,7 @@ void OutputFile::restore() noexcept {
   if (undo_ == Undo::remove)
     ::unlink(place_.c_str());
   else if (undo_ == Undo::putOldBack)
-    static_cast<void>(std::rename(old_.c_str(), place_.c_str()) != 0); // nothing more can be done
+    static_cast<void>(std::rename(replaced_.c_str(), place_.c_str()) != 0); // nothing more can be done
   undo_ = Undo::nothing;
 }
 

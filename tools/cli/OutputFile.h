@@ -25,7 +25,7 @@ public:
   void finish();
   /// Puts the finished file into its place; nothing where it was not finished. Throws Failure.
   void commit();
-  /// Undoes a commit, as far as the file system let the old file be kept.
+  /// Undoes a commit. Where the file system knows no hard links, what a file has replaced is lost.
   void restore() noexcept;
 
 private:
@@ -42,8 +42,8 @@ private:
   Undo undo_ = Undo::nothing;
   std::optional<FileWriter> writer_;
   std::optional<Leftover> leftover_;
-  std::string old_; ///< a second name of the file that was there, while it may be needed again
-  std::optional<Leftover> oldLeftover_;
+  std::string replaced_; ///< a second name of the file that was there, while it may be needed again
+  std::optional<Leftover> replacedLeftover_;
 };
 
 /// Where a file of that name stands, or would: absolute, links followed, also one to what does not exist.

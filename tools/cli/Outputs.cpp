@@ -62,17 +62,15 @@ bool wantsStandardOutput(const ImportOptions& options) {
 OutputFolder::OutputFolder(const std::string& name) {
   std::error_code error;
   const fs::path folder = fs::absolute(name, error);
-  if (fs::is_directory(folder, error))
-    return;
-  if (!fs::create_directory(folder, error))
+  if (fs::create_directory(folder, error))
+    leftover_.emplace([folder] {
+      std::error_code notEmpty;
+      fs::remove(folder, notEmpty);
+    });
+  else if (error) // none where it is there already
     throw Failure("cannot make the folder " + name + ": " +
-                  (!error                                          ? "a file stands there"
-                   : error == std::errc::no_such_file_or_directory ? "the folder that it would stand in is not there"
-                                                                   : error.message()));
-  leftover_.emplace([folder] {
-    std::error_code notEmpty;
-    fs::remove(folder, notEmpty);
-  });
+                  (error == std::errc::no_such_file_or_directory ? "the folder that it would stand in is not there"
+                                                                 : error.message()));
 }
 
 Outputs::Outputs(const ImportOptions& options, const Inputs& inputs)
@@ -119,7 +117,7 @@ void Outputs::commit() {
   try {
     for (OutputFile* file : files)
       file->commit();
-  } catch (const Failure&) {
+  } catch (...) {
     for (OutputFile* file : files)
       file->restore();
     throw;

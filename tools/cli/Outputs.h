@@ -30,7 +30,7 @@ public:
 
   /// Fills the files; without a scenario only the JSON. Throws Failure.
   void write(const Imported& imported);
-  /// Puts the filled files into their places, all or none. Throws Failure.
+  /// Puts the filled files into their places: all, or none as far as OutputFile::restore can. Throws Failure.
   void commit();
 
 private:

@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 constexpr const char* launcherName = "query-launcher";
 constexpr const char* executableLink = "query-executable"; ///< its target is the executable's path
 constexpr const char* groupFile = "query-group";           ///< the process group, while a query runs
-constexpr const char* sqlFile = "query-sql";
+constexpr const char* launchesFile = "query-launches";     ///< a byte for each query
 constexpr const char* complaintFile = "query-complaint";
 constexpr const char* fullDiskFile = "query-full-disk"; ///< an error line written while there was room
 
@@ -103,6 +103,8 @@ int waitFor(pid_t child) {
   while (::waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT) < 0 && errno == EINTR) {
   }
   ::kill(-child, SIGKILL);
+  std::error_code error;
+  fs::remove(groupFile, error);
   int status = 0;
   while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
@@ -114,11 +116,11 @@ int waitFor(pid_t child) {
 std::string errorLine(const std::string& reason) { return "error: " + reason + " .\n"; }
 
 /// On a full disk an error line takes the answer's place without a byte being written.
-bool forbidOldAnswer(const std::string& sql) {
+bool forbidOldAnswer() {
   const auto& answer = LagomareProjectManager::fileResultQuery;
   std::error_code error;
   fs::remove(complaintFile, error);
-  if (writeFile(answer, errorLine(noAnswer)) && writeFile(sqlFile, sql))
+  if (writeFile(answer, errorLine(noAnswer)) && std::ofstream(launchesFile, std::ios::app).put('.').flush())
     return true;
   fs::rename(fullDiskFile, answer, error);
   return false;
@@ -148,16 +150,15 @@ int launchQuery(char** arguments) {
   std::vector<char*> words;
   for (; *arguments != nullptr; ++arguments)
     words.push_back(*arguments);
-  const std::string sql = words.size() > 2 ? words[2] : "";
-  if (sql.empty() || !forbidOldAnswer(sql))
+  if (!forbidOldAnswer())
     return couldNotStart;
   const pid_t child = ::fork();
   if (child == 0)
     become(std::move(words));
   const int exitCode = child < 0 ? couldNotStart : waitFor(child);
   std::error_code error;
-  fs::remove(groupFile, error);
-  if (!fs::exists(LagomareProjectManager::fileResultQuery, error)) // an executable may clear an old answer away
+  // An executable may clear an old answer away, or put there what could not be read to its end.
+  if (!fs::is_regular_file(LagomareProjectManager::fileResultQuery, error))
     static_cast<void>(writeFile(LagomareProjectManager::fileResultQuery, errorLine(noAnswer)));
   return exitCode;
 }
@@ -170,7 +171,7 @@ void stopQuery(const fs::path& directory) {
     ::kill(static_cast<pid_t>(-group), SIGKILL);
 }
 
-std::string lastLaunchedSql() { return readFile(sqlFile); }
+std::size_t numOfLaunches() { return readFile(launchesFile).size(); }
 
 std::string lastQueryComplaint() {
   std::string text = readFile(complaintFile);

@@ -31,10 +31,10 @@ void stopQuery(const std::filesystem::path& directory);
 /// What the launcher puts where the answer is due, as the channel's first line shows it.
 extern const char* const noAnswer;
 
-/// The SQL of the query that the launcher started last in the current directory; empty before the first.
-[[nodiscard]] std::string lastLaunchedSql();
+/// How many queries the launcher was started for in the current directory.
+[[nodiscard]] std::size_t numOfLaunches();
 
-/// What that query wrote to its standard error: the last line that says something.
+/// What the last query wrote to its standard error: the last line that says something.
 [[nodiscard]] std::string lastQueryComplaint();
 
 } // namespace LagomareCli
