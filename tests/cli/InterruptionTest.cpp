@@ -62,6 +62,16 @@ TEST_F(InterruptionTest, NothingThatTheQueryStartedOutlivesIt) {
   ::close(alive);
 }
 
+TEST_F(InterruptionTest, NothingOutlivesAProgramThatIsKilled) {
+  RunningProgram program(words(hangAt("*LgmResCAV")));
+  ASSERT_TRUE(awaitFile("reached"));
+  program.send(SIGKILL);
+  EXPECT_EQ(program.wait().exitCode, -1);
+  for (int attempt = 0; attempt < 6000 && !leftovers().empty(); ++attempt)
+    ::usleep(10000);
+  EXPECT_FALSE(fs::exists("tables"));
+}
+
 TEST_F(InterruptionTest, AnIgnoredSignalStaysIgnored) {
   const auto command = importing({"basin.db", "--quiet", "--query-executable",
                                   executable("case \"$2\" in *LgmResCAV) kill -INT $(cat \"${0%/*}/pid\");; esac\n"

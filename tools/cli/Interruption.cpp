@@ -2,7 +2,6 @@
 
 #include "tools/cli/Leftover.h"
 
-#include <array>
 #include <csignal>
 #include <fcntl.h>
 #include <string_view>
@@ -12,26 +11,10 @@ namespace LagomareCli {
 
 namespace {
 
-/// What a terminal sends to all processes in its foreground. They are ignored too, which the shells that run the
-/// queries inherit: those must outlive Ctrl-C, and may unblock signals.
-constexpr std::array<int, 2> terminalSignals{SIGINT, SIGQUIT};
-
-/// Always heard: it also wakes the thread that waits, at the end.
-constexpr int wakingSignal = SIGTERM;
-
-/// As a program is started by nohup, or by a script that is to go on alone.
-bool isIgnored(int signal) {
-  struct sigaction action {};
-  return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
-}
-
-sigset_t signalsNotIgnored() {
+sigset_t stopSignal() {
   sigset_t signals;
   sigemptyset(&signals);
-  sigaddset(&signals, wakingSignal);
-  for (const int signal : {SIGINT, SIGQUIT, SIGHUP})
-    if (!isIgnored(signal))
-      sigaddset(&signals, signal);
+  sigaddset(&signals, SIGTERM);
   return signals;
 }
 
@@ -43,10 +26,9 @@ void tellHowToEnd() {
 
 } // namespace
 
-Interruption::Interruption() : signals_(signalsNotIgnored()) {
-  ::pthread_sigmask(SIG_BLOCK, &signals_, nullptr);
-  for (const int signal : terminalSignals)
-    static_cast<void>(std::signal(signal, SIG_IGN));
+Interruption::Interruption() {
+  const sigset_t signals = stopSignal();
+  ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
   thread_ = std::thread([this] { waitForSignals(); });
 }
 
@@ -55,7 +37,7 @@ Interruption::~Interruption() {
     const std::lock_guard lock(mutex_);
     isLeaving_ = true;
   }
-  ::pthread_kill(thread_.native_handle(), wakingSignal);
+  ::pthread_kill(thread_.native_handle(), SIGTERM);
   thread_.join();
 }
 
@@ -84,9 +66,10 @@ void Interruption::endAll() {
 }
 
 void Interruption::waitForSignals() {
+  const sigset_t signals = stopSignal();
   for (;;) {
     int signal = 0;
-    if (::sigwait(&signals_, &signal) != 0)
+    if (::sigwait(&signals, &signal) != 0)
       continue;
     const std::lock_guard lock(mutex_);
     if (isLeaving_)

@@ -1,19 +1,14 @@
 #pragma once
 
-#include <csignal>
 #include <functional>
 #include <mutex>
 #include <thread>
 
 namespace LagomareCli {
 
-/// Ctrl-C and its kin (SIGINT, SIGTERM, SIGHUP, SIGQUIT), for as long as this lives; one at a time, made before any
-/// other thread. What the process was started to ignore stays ignored, but
-/// for SIGTERM.
-///
-/// The first one asks the import to stop, a second one ends the program at once, with exit code 130 and without a
-/// leftover. The signals stay blocked in every thread and one thread waits for them: a blocked signal is kept even
-/// while system() makes the process ignore SIGINT.
+/// What asks the program to stop (SIGTERM, which the supervisor hands on), for as long as this lives; one at a time,
+/// made before any other thread. The first signal asks the import to stop, a second one ends the program at once, with
+/// exit code 130 and without a leftover. The signal stays blocked in every thread and one thread waits for it.
 class Interruption {
 public:
   Interruption();
@@ -44,7 +39,6 @@ private:
   State state_ = State::importing;
   bool isLeaving_ = false;
   std::function<void()> stop_ = [] {};
-  sigset_t signals_;
   std::thread thread_;
 };
 

@@ -1,6 +1,7 @@
 #include "tools/cli/Failure.h"
 #include "tools/cli/ImportCommand.h"
 #include "tools/cli/QueryLauncher.h"
+#include "tools/cli/Supervisor.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -45,5 +46,5 @@ int main(int argumentCount, char** arguments) {
   std::signal(SIGXFSZ, SIG_IGN); // and so is a file that grows larger than allowed
   if (argumentCount > 0 && isLauncher(arguments[0]))
     ::_exit(launchQuery(arguments)); // once per query: taking the static tables down would cost as much as the query
-  return argumentCount > 0 ? runCommand(argumentCount, arguments) : wrongCall;
+  return argumentCount > 0 ? supervise([=] { return runCommand(argumentCount, arguments); }) : wrongCall;
 }

@@ -88,7 +88,7 @@ std::string joinOwnGroup() {
   sigset_t none;
   sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
-  for (const int signal : {SIGINT, SIGQUIT, SIGPIPE, SIGXFSZ})
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGPIPE, SIGXFSZ})
     static_cast<void>(std::signal(signal, SIG_DFL));
   ::execvp(executable.c_str(), words.data());
   const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
