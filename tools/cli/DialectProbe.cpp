@@ -25,10 +25,11 @@ std::string without(std::string text, const std::string& part) {
   return text;
 }
 
-/// Executables of one's own say in their own words that a table is missing, or say nothing. Some repeat the SQL.
+/// Executables of one's own say in their own words that a table is missing, or say nothing. Some repeat the SQL in
+/// any error.
 Finding findingOf(const std::string& refusal, const std::string& sql, const std::string& table, bool isOwnExecutable) {
   const std::string complaint = lastQueryComplaint();
-  const std::string mark = isOwnExecutable ? table : "no such table";
+  const std::string mark = isOwnExecutable ? table : "no such table: " + table;
   if (without(refusal + ' ' + complaint, sql).find(mark) != std::string::npos)
     return Finding::missing;
   const std::string answer = firstLineOfAnswer();
