@@ -39,7 +39,7 @@ Finding findingOf(const std::string& refusal, const std::string& sql, const std:
 
 /// Why the count was not answered.
 std::string refusalOfCount(const Inputs& inputs, const std::string& plainDatabase) {
-  const std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
+  std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
   if (!refusal.empty())
     return refusal;
   const std::string answer = firstLineOfAnswer();

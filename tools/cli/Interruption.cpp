@@ -37,7 +37,8 @@ Interruption::~Interruption() {
     const std::lock_guard lock(mutex_);
     isLeaving_ = true;
   }
-  ::pthread_kill(thread_.native_handle(), SIGTERM);
+  // The signal, blocked everywhere, only wakes the thread that waits for it.
+  ::pthread_kill(thread_.native_handle(), SIGTERM); // NOLINT(bugprone-bad-signal-to-kill-thread,cert-pos44-c)
   thread_.join();
 }
 
