@@ -25,13 +25,13 @@ Interval makeInterval(Date start, std::uint32_t durationYears) {
   end.setYear(start.getYear() + durationYears);
   --end;
   end.setDay(1, end.getMonth(), end.getYear());
-  return Interval(start, end, MonthlyType());
+  return {start, end, MonthlyType()};
 }
 
 Date firstDayOf(std::uint32_t year, std::uint32_t month) {
   if (month < 1 || month > 12)
     throw std::invalid_argument("SceneryProjectManager::loadInterval: there is no month " + std::to_string(month));
-  return Date(year, static_cast<unsigned char>(month), 1);
+  return {year, static_cast<unsigned char>(month), 1};
 }
 
 std::shared_ptr<Scenario> makeScenario(const Interval& interval) {

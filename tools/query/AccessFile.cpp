@@ -71,7 +71,7 @@ AccessFile::AccessFile(const std::filesystem::path& file)
   for (const char* name : {"MDBICONV", "MDBOPTS", "MDBPATH"}) // would change what libmdb does
     forgetVariable(name);
   MdbHandle* mdb = mdb_open(file.string().c_str(), MDB_NOFLAGS);
-  if (!mdb)
+  if (mdb == nullptr)
     throwDamaged("its first page");
   m_handle = std::make_unique<Handle>(mdb);
   if (mdb->f->jet_version > MDB_VER_JET4 && mdb->f->db_key != 0)

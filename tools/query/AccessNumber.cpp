@@ -38,8 +38,8 @@ std::string decimalDigits(std::array<std::uint32_t, 4> groups) {
 } // namespace
 
 double doubleOfSingle(float single) {
-  char text[32];
-  return doubleOfText(text, std::to_chars(text, text + sizeof text, single).ptr);
+  std::array<char, 32> text{};
+  return doubleOfText(text.data(), std::to_chars(text.data(), text.data() + text.size(), single).ptr);
 }
 
 double doubleOfCurrency(std::int64_t tenThousandths) {
@@ -65,18 +65,19 @@ std::string isoOfDateTime(double days) {
   const auto rounded = static_cast<int>(std::lround(std::abs(days - day) * daySeconds));
   const int second = rounded % daySeconds;
   const Day date = dayFromAccess(static_cast<std::int64_t>(day) + rounded / daySeconds);
-  char text[64];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", date.year, date.month, date.day, second / 3600,
-                second / 60 % 60, second % 60);
-  return text;
+  std::array<char, 64> text{};
+  static_cast<void>(std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", date.year, date.month,
+                                  date.day, second / 3600, second / 60 % 60, second % 60));
+  return text.data();
 }
 
 std::string textOfGuid(AccessBytes stored) {
-  char text[64];
-  std::snprintf(text, sizeof text, "{%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}", stored.u32(0), stored.u16(4),
-                stored.u16(6), stored.u8(8), stored.u8(9), stored.u8(10), stored.u8(11), stored.u8(12), stored.u8(13),
-                stored.u8(14), stored.u8(15));
-  return text;
+  std::array<char, 64> text{};
+  static_cast<void>(std::snprintf(text.data(), text.size(), "{%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}",
+                                  stored.u32(0), stored.u16(4), stored.u16(6), stored.u8(8), stored.u8(9),
+                                  stored.u8(10), stored.u8(11), stored.u8(12), stored.u8(13), stored.u8(14),
+                                  stored.u8(15)));
+  return text.data();
 }
 
 } // namespace LagomareQuery

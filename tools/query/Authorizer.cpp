@@ -4,7 +4,7 @@ namespace LagomareQuery {
 
 namespace {
 
-std::string textOrEmpty(const char* text) { return text ? text : ""; }
+std::string textOrEmpty(const char* text) { return text == nullptr ? "" : text; }
 
 bool sameName(const std::string& left, const std::string& right) {
   return sqlite3_stricmp(left.c_str(), right.c_str()) == 0;
@@ -23,7 +23,7 @@ int Authorizer::decide(void* self, int action, const char* first, const char* se
   auto& authorizer = *static_cast<Authorizer*>(self);
   std::string refusal = action == SQLITE_READ ? authorizer.refusalOfReading(textOrEmpty(first), textOrEmpty(second),
                                                                             textOrEmpty(schema), textOrEmpty(view))
-                                              : authorizer.refusalOf(action, textOrEmpty(first), textOrEmpty(second));
+                                              : Authorizer::refusalOf(action, textOrEmpty(first), textOrEmpty(second));
   if (refusal.empty())
     return SQLITE_OK;
   authorizer.m_refusal = std::move(refusal);

@@ -1,5 +1,7 @@
 #include "tools/query/Calendar.h"
 
+#include <array>
+
 namespace LagomareQuery {
 
 namespace {
@@ -7,8 +9,8 @@ namespace {
 bool isLeapYear(int year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); }
 
 int daysInMonth(int year, int month) {
-  constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  return days[month - 1] + (month == 2 && isLeapYear(year) ? 1 : 0);
+  constexpr std::array<int, 12> days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  return days[static_cast<std::size_t>(month - 1)] + (month == 2 && isLeapYear(year) ? 1 : 0);
 }
 
 } // namespace

@@ -20,9 +20,10 @@ char* append(char* to, std::string_view bytes) { return std::copy(bytes.begin(),
 
 /// Bytes that the text begins with and that are written as they are, each a character.
 std::size_t plainLength(std::string_view text) {
-  const auto special =
-      std::find_if(text.begin(), text.end(), [](char character) { return character <= ' ' || character >= 0x7F; });
-  return static_cast<std::size_t>(special - text.begin());
+  const char* const end = text.data() + text.size();
+  const char* const special =
+      std::find_if(text.data(), end, [](char character) { return character <= ' ' || character >= 0x7F; });
+  return static_cast<std::size_t>(special - text.data());
 }
 
 /// Blanks and line breaks would end the field or the row.

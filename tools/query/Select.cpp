@@ -24,7 +24,7 @@ bool isBlank(sqlite3* connection, const char* sql) {
 }
 
 void requireSelect(sqlite3_stmt* statement) {
-  if (!statement)
+  if (statement == nullptr)
     throw QueryError("the SQL is empty; send one statement that selects");
   if (sqlite3_stmt_isexplain(statement) != 0 || sqlite3_stmt_readonly(statement) == 0 ||
       sqlite3_column_count(statement) == 0)

@@ -43,7 +43,8 @@ bool step(sqlite3_stmt* statement) {
 std::string_view textColumn(sqlite3_stmt* statement, int column) {
   const void* text = sqlite3_column_text(statement, column);
   const int bytes = sqlite3_column_bytes(statement, column);
-  return text ? std::string_view(static_cast<const char*>(text), static_cast<std::size_t>(bytes)) : std::string_view();
+  return text != nullptr ? std::string_view(static_cast<const char*>(text), static_cast<std::size_t>(bytes))
+                         : std::string_view();
 }
 
 std::string quotedName(std::string_view name) {
