@@ -72,6 +72,13 @@ TEST_F(InterruptionTest, NothingOutlivesAProgramThatIsKilled) {
   EXPECT_FALSE(fs::exists("tables"));
 }
 
+TEST_F(InterruptionTest, AProgramWhoseCallerIgnoresItsChildrenEnds) {
+  std::vector<std::string> words{"/bin/sh", "-c", "trap '' CHLD; exec \"$@\"", "sh"};
+  for (const std::string& word : importing({"nothing.db"}))
+    words.push_back(word);
+  EXPECT_EQ(run(words).exitCode, 1);
+}
+
 TEST_F(InterruptionTest, AnIgnoredSignalStaysIgnored) {
   const auto command = importing({"basin.db", "--quiet", "--query-executable",
                                   executable("case \"$2\" in *LgmResCAV) kill -INT $(cat \"${0%/*}/pid\");; esac\n"

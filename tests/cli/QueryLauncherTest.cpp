@@ -32,8 +32,8 @@ TEST_F(QueryLauncherTest, StartsTheExecutableByItsOwnPathWithTheArgumentsUnchang
 
 TEST_F(QueryLauncherTest, AnAnswerThatWasNotWrittenIsAnError) {
   project();
-  for (const std::string fault :
-       {"exit 0", "echo 'out of order' >&2; exit", "rm query-result.txt; exit", "kill -9 $$"}) {
+  for (const std::string fault : {"exit 0", "echo 'out of order' >&2; exit", "rm query-result.txt; exit", "kill -9 $$",
+                                  "answer \"$@\"; kill -9 $$"}) {
     // Late, when an old answer could be read again.
     const Ending ending = importBy("case \"$2\" in *LgmResPrior) " + fault + ";; esac; answer \"$@\"");
     EXPECT_EQ(ending.exitCode, 1) << fault;

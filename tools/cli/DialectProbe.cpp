@@ -85,7 +85,8 @@ Dialect findDialect(const Inputs& inputs, const std::string& plainDatabase) {
     throw Failure(inputs.projectName + ": holds both " + namesOfBoth("and") + "; say which to read with --dialect");
   if (!is2010 && !is2013)
     throw Failure(inputs.projectName + ": holds neither " + namesOfBoth("nor") +
-                  "; check that it is the project's database and not another one");
+                  "; check that it is the project's database and not another one" +
+                  (inputs.isOwnExecutable ? " (the query executable says: " + of2013.refusal + ")" : ""));
   return is2010 ? Dialect::of2010 : Dialect::of2013;
 }
 

@@ -1,35 +1,44 @@
 #include "tools/cli/Interruption.h"
 
+#include "tools/cli/Failure.h"
 #include "tools/cli/Leftover.h"
+#include "tools/cli/Supervisor.h"
 
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <string_view>
+#include <system_error>
 #include <unistd.h>
 
 namespace LagomareCli {
 
 namespace {
 
-sigset_t stopSignal() {
+sigset_t awaited() {
   sigset_t signals;
   sigemptyset(&signals);
-  sigaddset(&signals, SIGTERM);
+  sigaddset(&signals, stopSignal);
   return signals;
 }
 
 void tellHowToEnd() {
   constexpr std::string_view note = "\nlagomare: stopping; once more ends at once\n";
-  if (::isatty(STDERR_FILENO) != 0)
+  pollfd terminal{STDERR_FILENO, POLLOUT, 0};
+  if (::isatty(STDERR_FILENO) != 0 && ::poll(&terminal, 1, 0) == 1) // one that is stopped would stop the stopping
     static_cast<void>(::write(STDERR_FILENO, note.data(), note.size()) < 0);
 }
 
 } // namespace
 
 Interruption::Interruption() {
-  const sigset_t signals = stopSignal();
+  const sigset_t signals = awaited();
   ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-  thread_ = std::thread([this] { waitForSignals(); });
+  try {
+    thread_ = std::thread([this] { waitForSignals(); });
+  } catch (const std::system_error& error) {
+    throw Failure(std::string("cannot start a thread: ") + error.what());
+  }
 }
 
 Interruption::~Interruption() {
@@ -37,8 +46,7 @@ Interruption::~Interruption() {
     const std::lock_guard lock(mutex_);
     isLeaving_ = true;
   }
-  // The signal, blocked everywhere, only wakes the thread that waits for it.
-  ::pthread_kill(thread_.native_handle(), SIGTERM); // NOLINT(bugprone-bad-signal-to-kill-thread,cert-pos44-c)
+  ::pthread_kill(thread_.native_handle(), stopSignal);
   thread_.join();
 }
 
@@ -67,7 +75,7 @@ void Interruption::endAll() {
 }
 
 void Interruption::waitForSignals() {
-  const sigset_t signals = stopSignal();
+  const sigset_t signals = awaited();
   for (;;) {
     int signal = 0;
     if (::sigwait(&signals, &signal) != 0)
@@ -85,8 +93,8 @@ void Interruption::handleSignal() {
     return;
   if (state_ == State::importing) {
     state_ = State::stopping;
-    tellHowToEnd();
     stop_();
+    tellHowToEnd();
     return;
   }
   ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO); // what the import still tries will fail; nobody wants to know

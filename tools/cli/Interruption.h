@@ -6,11 +6,12 @@
 
 namespace LagomareCli {
 
-/// What asks the program to stop (SIGTERM, which the supervisor hands on), for as long as this lives; one at a time,
+/// What asks the program to stop (stopSignal, from the supervisor), for as long as this lives; one at a time,
 /// made before any other thread. The first signal asks the import to stop, a second one ends the program at once, with
 /// exit code 130 and without a leftover. The signal stays blocked in every thread and one thread waits for it.
 class Interruption {
 public:
+  /// Throws Failure.
   Interruption();
   ~Interruption();
   Interruption(const Interruption&) = delete;

@@ -28,7 +28,8 @@ struct LastQuery {
 /// all. 0 where there is none.
 [[nodiscard]] std::size_t findRow(std::optional<std::uint32_t> id, std::size_t column, const std::string& text);
 
-/// Throws Failure where the launcher was not started for a query, which an old answer has answered then.
+/// Throws Failure where the launcher did not run a query to its end, which an old answer or half of one has answered
+/// then.
 void requireLaunched();
 
 } // namespace LagomareCli

@@ -42,9 +42,12 @@ int runCommand(int argumentCount, char** arguments) {
 
 int main(int argumentCount, char** arguments) {
   occupyStandardStreams();
+  static_cast<void>(std::signal(SIGCHLD, SIG_DFL)); // where it is ignored no child's end can be waited for
   static_cast<void>(std::signal(SIGPIPE, SIG_IGN)); // a closed pipe is an error of writing,
   static_cast<void>(std::signal(SIGXFSZ, SIG_IGN)); // and so is a file that grows larger than allowed
-  if (argumentCount > 0 && isLauncher(arguments[0]))
-    ::_exit(launchQuery(arguments)); // once per query: taking the static tables down would cost as much as the query
+  if (argumentCount > 0 && isLauncher(arguments[0])) {
+    launchQuery(arguments);
+    ::_exit(success); // once per query: taking the static tables down would cost as much as the query
+  }
   return argumentCount > 0 ? supervise([=] { return runCommand(argumentCount, arguments); }) : wrongCall;
 }

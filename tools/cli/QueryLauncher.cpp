@@ -10,6 +10,9 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -24,7 +27,7 @@ namespace fs = std::filesystem;
 constexpr const char* launcherName = "query-launcher";
 constexpr const char* executableLink = "query-executable"; ///< its target is the executable's path
 constexpr const char* groupFile = "query-group";           ///< the process group, while a query runs
-constexpr const char* launchesFile = "query-launches";     ///< a byte for each query
+constexpr const char* launchesFile = "query-launches"; ///< a byte for the beginning of each query and one for its end
 constexpr const char* complaintFile = "query-complaint";
 constexpr const char* fullDiskFile = "query-full-disk"; ///< an error line written while there was room
 
@@ -72,6 +75,9 @@ std::string joinOwnGroup() {
 
 /// Turns this process into the executable, as a shell would start it: also a script without an interpreter's line.
 [[noreturn]] void become(std::vector<char*> words) {
+#ifdef __linux__
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+#endif
   redirect(STDIN_FILENO, "/dev/null", O_RDONLY);
   redirect(STDOUT_FILENO, "/dev/null", O_WRONLY);
   redirect(STDERR_FILENO, "/dev/null", O_WRONLY); // where the file cannot be made
@@ -88,7 +94,7 @@ std::string joinOwnGroup() {
   sigset_t none;
   sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
-  for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGPIPE, SIGXFSZ})
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGTERM, SIGPIPE, SIGXFSZ})
     static_cast<void>(std::signal(signal, SIG_DFL));
   ::execvp(executable.c_str(), words.data());
   const std::string complaint = "it cannot be started: " + systemText(errno) + "\n";
@@ -96,9 +102,10 @@ std::string joinOwnGroup() {
   ::_exit(couldNotStart);
 }
 
-/// The exit code of a child process; one that a signal ended leaves a complaint. What it started and left running ends
-/// too: it could still write into the next answer. Until the child is waited for, its group's number is nobody else's.
-int waitFor(pid_t child) {
+/// Whether a child process came to an end of its own; one that a signal ended leaves a complaint. What it started and
+/// left running ends too: it could still write into the next answer. Until the child is waited for, its group's number
+/// is nobody else's.
+bool waitFor(pid_t child) {
   siginfo_t ended{};
   while (::waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT) < 0 && errno == EINTR) {
   }
@@ -110,17 +117,19 @@ int waitFor(pid_t child) {
   }
   if (WIFSIGNALED(status))
     std::ofstream(complaintFile, std::ios::app) << "it was ended by signal " << WTERMSIG(status) << '\n';
-  return WIFEXITED(status) ? WEXITSTATUS(status) : couldNotStart;
+  return WIFEXITED(status);
 }
 
 std::string errorLine(const std::string& reason) { return "error: " + reason + " .\n"; }
+
+bool countLaunch() { return std::ofstream(launchesFile, std::ios::app).put('.').flush().good(); }
 
 /// On a full disk an error line takes the answer's place without a byte being written.
 bool forbidOldAnswer() {
   const auto& answer = LagomareProjectManager::fileResultQuery;
   std::error_code error;
   fs::remove(complaintFile, error);
-  if (writeFile(answer, errorLine(noAnswer)) && std::ofstream(launchesFile, std::ios::app).put('.').flush())
+  if (writeFile(answer, errorLine(noAnswer)) && countLaunch())
     return true;
   fs::rename(fullDiskFile, answer, error);
   return false;
@@ -146,21 +155,23 @@ PlainNames installLauncher(const fs::path& program, const fs::path& executable, 
 
 bool isLauncher(const std::string& calledAs) { return calledAs == std::string("./") + launcherName; }
 
-int launchQuery(char** arguments) {
+void launchQuery(char** arguments) {
   std::vector<char*> words;
   for (; *arguments != nullptr; ++arguments)
     words.push_back(*arguments);
   if (!forbidOldAnswer())
-    return couldNotStart;
+    return;
   const pid_t child = ::fork();
   if (child == 0)
     become(std::move(words));
-  const int exitCode = child < 0 ? couldNotStart : waitFor(child);
+  if (child < 0)
+    static_cast<void>(writeFile(complaintFile, "it cannot be started: " + systemText(errno) + '\n'));
+  const bool isEnded = child > 0 && waitFor(child);
   std::error_code error;
-  // An executable may clear an old answer away, or put there what could not be read to its end.
-  if (!fs::is_regular_file(LagomareProjectManager::fileResultQuery, error))
+  // An executable may clear an old answer away, put there what could not be read to its end, or die half-way.
+  if (!isEnded || !fs::is_regular_file(LagomareProjectManager::fileResultQuery, error))
     static_cast<void>(writeFile(LagomareProjectManager::fileResultQuery, errorLine(noAnswer)));
-  return exitCode;
+  static_cast<void>(countLaunch());
 }
 
 void stopQuery(const fs::path& directory) {
@@ -171,7 +182,7 @@ void stopQuery(const fs::path& directory) {
     ::kill(static_cast<pid_t>(-group), SIGKILL);
 }
 
-std::size_t numOfLaunches() { return readFile(launchesFile).size(); }
+std::size_t numOfLaunches() { return readFile(launchesFile).size() / 2; }
 
 std::string lastQueryComplaint() {
   std::string text = readFile(complaintFile);

@@ -22,8 +22,8 @@ struct PlainNames {
 /// Whether the program was called as the launcher.
 [[nodiscard]] bool isLauncher(const std::string& calledAs);
 
-/// Runs one query to its end, as a process group of its own; returns the exit code.
-[[nodiscard]] int launchQuery(char** arguments);
+/// Runs one query to its end, as a process group of its own. What its exit code says, the answer says too.
+void launchQuery(char** arguments);
 
 /// Ends the query that runs in a private directory, if any, with what it started; no other one can start there.
 void stopQuery(const std::filesystem::path& directory);
@@ -31,7 +31,7 @@ void stopQuery(const std::filesystem::path& directory);
 /// What the launcher puts where the answer is due, as the channel's first line shows it.
 extern const char* const noAnswer;
 
-/// How many queries the launcher was started for in the current directory.
+/// How many queries the launcher has run to their ends in the current directory.
 [[nodiscard]] std::size_t numOfLaunches();
 
 /// What the last query wrote to its standard error: the last line that says something.

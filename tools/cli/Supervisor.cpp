@@ -39,40 +39,43 @@ sigset_t blockSignals() {
   return signals;
 }
 
-[[noreturn]] void become(const std::function<int()>& work, pid_t supervisor) {
+/// What the supervisor hears the work ignores, and so do the shells that run the queries: they get it too where it is
+/// sent to the whole group.
+[[noreturn]] void become(const std::function<int()>& work) {
 #ifdef __linux__
-  ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+  ::prctl(PR_SET_PDEATHSIG, stopSignal);
 #endif
-  for (const int signal : terminalSignals)
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGTERM})
     static_cast<void>(std::signal(signal, SIG_IGN));
   sigset_t heard;
   sigemptyset(&heard);
-  sigaddset(&heard, SIGTERM);
+  sigaddset(&heard, stopSignal);
   ::pthread_sigmask(SIG_SETMASK, &heard, nullptr);
-  std::exit(::getppid() == supervisor ? work() : failure);
+  std::exit(work());
 }
 
 } // namespace
 
 int supervise(const std::function<int()>& work) {
   const sigset_t signals = blockSignals();
-  const pid_t self = ::getpid();
   const pid_t worker = ::fork();
   if (worker == 0)
-    become(work, self);
+    become(work);
   if (worker < 0) {
     printError("cannot start a process: " + systemText(errno));
     return failure;
   }
   int status = 0;
-  while (::waitpid(worker, &status, WNOHANG) == 0) {
+  pid_t ended = 0;
+  while ((ended = ::waitpid(worker, &status, WNOHANG)) == 0) {
     int signal = 0;
     if (::sigwait(&signals, &signal) == 0 && signal != SIGCHLD)
-      ::kill(worker, SIGTERM);
+      ::kill(worker, stopSignal);
   }
-  if (WIFEXITED(status))
+  if (ended == worker && WIFEXITED(status))
     return WEXITSTATUS(status);
-  printError("ended by signal " + std::to_string(WTERMSIG(status)));
+  printError("ended by signal " + std::to_string(WTERMSIG(status)) + "; what it was writing is left in TMPDIR and " +
+             "beside the outputs");
   return failure;
 }
 

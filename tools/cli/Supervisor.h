@@ -1,11 +1,15 @@
 #pragma once
 
+#include <csignal>
 #include <functional>
 
 namespace LagomareCli {
 
+/// Asks the work to stop: nothing else sends it, to a whole group neither.
+constexpr int stopSignal = SIGUSR1;
+
 /// Does the work in a process of its own and returns its exit code. Ctrl-C and its kin (SIGINT, SIGQUIT, SIGHUP, but
-/// for those that this process was started to ignore, and SIGTERM) are handed on to it as SIGTERM, which is blocked
+/// for those that this process was started to ignore, and SIGTERM) are handed on to it as stopSignal, which is blocked
 /// there.
 ///
 /// The work starts queries by system(). That makes its caller ignore SIGINT and SIGQUIT, which throws away one that has
