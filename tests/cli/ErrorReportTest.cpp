@@ -22,9 +22,8 @@ protected:
 TEST_F(ErrorReportTest, SaysWhatWhereAndHowToMendIt) {
   const std::vector<std::pair<const char*, const char*>> cases{
       {"update LgmVazNat set Valor = 'abc' where Data = 5",
-       "basin.db: table LgmVazNat: row 5 of the id 21, column Valor "
-       "holds \"abc\" where a number must stand (query: select "
-       "NumPto, Valor from LgmVazNat)"},
+       "basin.db: table LgmVazNat: row 5 of the id 21, column Valor holds \"abc\" where a number must stand (query: "
+       "select NumPto, Valor from LgmVazNat)"},
       {"update Tk_Res_FEA set VolMin = null", "row 1 of the id 1, column VolMin is empty where a number must stand"},
       {"update LgmDemPrior set Valor = 1e10", "column Valor holds \"10000000000\", which does not fit: a priority"},
       {"insert into LgmResEvap values ('x', 1, 1)", "table LgmResEvap: row 1, column NumPto holds \"x\" where a whole"},

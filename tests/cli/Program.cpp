@@ -2,11 +2,14 @@
 
 #include <chrono>
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <poll.h>
 #include <sqlite3.h>
 #include <stdexcept>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -39,6 +42,16 @@ Ending RunningProgram::wait() {
   ::waitpid(process_, &status, 0);
   process_ = 0;
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile("out.txt"), readFile("err.txt")};
+}
+
+LifeLine::LifeLine(const std::string& name)
+    : descriptor_(::mkfifo(name.c_str(), 0600) == 0 ? ::open(name.c_str(), O_RDONLY | O_NONBLOCK) : -1) {}
+
+LifeLine::~LifeLine() { ::close(descriptor_); }
+
+bool LifeLine::awaitEnd() const {
+  pollfd ended{descriptor_, POLLIN, 0};
+  return ::poll(&ended, 1, 60000) == 1 && (ended.revents & POLLHUP) != 0;
 }
 
 Ending run(const std::vector<std::string>& words) { return RunningProgram(words).wait(); }

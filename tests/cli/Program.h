@@ -26,6 +26,22 @@ private:
   pid_t process_;
 };
 
+/// Tells, without a clock, when all processes have ended that write to a pipe.
+class LifeLine {
+public:
+  /// Makes the pipe.
+  explicit LifeLine(const std::string& name);
+  ~LifeLine();
+  LifeLine(const LifeLine&) = delete;
+  LifeLine& operator=(const LifeLine&) = delete;
+
+  /// Once somebody has opened the pipe: waits until nobody has it open. False where that does not come.
+  [[nodiscard]] bool awaitEnd() const;
+
+private:
+  int descriptor_;
+};
+
 [[nodiscard]] Ending run(const std::vector<std::string>& words);
 
 [[nodiscard]] std::string readFile(const std::string& name);

@@ -63,10 +63,11 @@ TEST_F(QueryLauncherTest, WithstandsHostileExecutables) {
 
 TEST_F(QueryLauncherTest, WhatAQueryLeavesRunningEndsWithIt) {
   project();
-  const Ending ending = importBy("answer \"$@\"; here=${0%/*}; case \"$2\" in *LgmResPrior)\n"
-                                 "(trap '' HUP; sleep 1; > \"$here/late\") & ;; *LgmLnkCmaxSC*) sleep 1.5;; esac");
+  const LifeLine alive("alive");
+  const Ending ending = importBy("answer \"$@\"; case \"$2\" in *LgmResPrior)\n"
+                                 "exec 3> \"${0%/*}/alive\"; (trap '' HUP; sleep 1000) & ;; esac");
   EXPECT_EQ(ending.exitCode, 0) << ending.err;
-  EXPECT_FALSE(fs::exists("late"));
+  EXPECT_TRUE(alive.awaitEnd());
 }
 
 TEST_F(QueryLauncherTest, AProjectThatChangesWhileItIsReadIsAnError) {

@@ -119,8 +119,7 @@ std::size_t findRow(std::optional<std::uint32_t> id, std::size_t column, const s
 void requireLaunched() {
   if (numOfLaunches() != LagomareProjectManager::getNumOfQueries())
     throw Failure("a query could not be started, or its launcher was killed; look for a full disk under TMPDIR, for "
-                  "what removes files there, and "
-                  "for limits of memory and of the number of processes");
+                  "what removes files there, and for limits of memory and of the number of processes");
 }
 
 } // namespace LagomareCli

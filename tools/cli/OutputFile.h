@@ -29,6 +29,8 @@ public:
   void restore() noexcept;
 
 private:
+  enum class Undo { nothing, remove, putOldBack };
+
   void openBeside(unsigned mode);
   void checkRoom();
   [[noreturn]] void fail(int error) const;
@@ -38,7 +40,6 @@ private:
   std::string temporary_;       ///< where it is written; empty where it is written directly
   int descriptor_ = -1;
   bool isFinished_ = false;
-  enum class Undo { nothing, remove, putOldBack };
   Undo undo_ = Undo::nothing;
   std::optional<FileWriter> writer_;
   std::optional<Leftover> leftover_;

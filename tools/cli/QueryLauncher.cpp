@@ -76,7 +76,7 @@ std::string joinOwnGroup() {
 /// Turns this process into the executable, as a shell would start it: also a script without an interpreter's line.
 [[noreturn]] void become(std::vector<char*> words) {
 #ifdef __linux__
-  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL); // a query whose launcher is killed must not write on
 #endif
   redirect(STDIN_FILENO, "/dev/null", O_RDONLY);
   redirect(STDOUT_FILENO, "/dev/null", O_WRONLY);

@@ -22,7 +22,7 @@ struct PlainNames {
 /// Whether the program was called as the launcher.
 [[nodiscard]] bool isLauncher(const std::string& calledAs);
 
-/// Runs one query to its end, as a process group of its own. What its exit code says, the answer says too.
+/// Runs one query to its end, as a process group of its own. The answer says how it ended.
 void launchQuery(char** arguments);
 
 /// Ends the query that runs in a private directory, if any, with what it started; no other one can start there.

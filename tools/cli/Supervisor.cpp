@@ -74,8 +74,9 @@ int supervise(const std::function<int()>& work) {
   }
   if (ended == worker && WIFEXITED(status))
     return WEXITSTATUS(status);
-  printError("ended by signal " + std::to_string(WTERMSIG(status)) + "; what it was writing is left in TMPDIR and " +
-             "beside the outputs");
+  printError("ended by signal " + std::to_string(WTERMSIG(status)) +
+             "; what it was writing is left in TMPDIR and beside the "
+             "outputs");
   return failure;
 }
 
