@@ -48,19 +48,29 @@ void LagomareProjectManager::buildScript(const std::string& sql, bool flag) cons
   script << apiExecutable << " \"" << databaseFilename << "\" \"" << sql << "\" " << (flag ? '1' : '0') << '\n';
 }
 
+void LagomareProjectManager::setSource(std::shared_ptr<Lagomare::QuerySource> querySource) {
+  source = std::move(querySource);
+}
+
 QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) const {
-  std::ifstream answer = ask(sql, flag);
-  return Lagomare::parseRows(answer);
+  return Lagomare::parseRows(*ask(sql, flag));
 }
 
 ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool flag) const {
-  std::ifstream answer = ask(sql, flag);
-  return Lagomare::parseValues(answer);
+  return Lagomare::parseValues(*ask(sql, flag));
 }
 
-std::ifstream LagomareProjectManager::ask(const std::string& sql, bool flag) const {
+std::unique_ptr<std::istream> LagomareProjectManager::ask(const std::string& sql, bool flag) const {
   ++numOfQueries;
+  if (source == nullptr)
+    return runScript(sql, flag);
+  auto answer = source->ask(sql, flag);
+  answer->exceptions(std::ios::badbit); // a stream by itself would take its buffer's exception for the end
+  return answer;
+}
+
+std::unique_ptr<std::istream> LagomareProjectManager::runScript(const std::string& sql, bool flag) const {
   buildScript(sql, flag);
   Lagomare::runScript(scriptFile);
-  return std::ifstream(fileResultQuery, std::ios::binary);
+  return std::make_unique<std::ifstream>(fileResultQuery, std::ios::binary);
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "access/QueryResult.h"
+#include "access/QuerySource.h"
 #include "access/ValueResult.h"
 #include "lagomare_export.h"
 
 #include <cstddef>
-#include <iosfwd>
+#include <istream>
+#include <memory>
 #include <string>
 
 /// The channel to a legacy database: asks an external query executable, which writes its answer to a file.
@@ -36,6 +38,11 @@ public:
 
   void setApiExecutable(const std::string& path);
 
+  /// From now on, for the life of this channel, this source answers the queries; no script is written or run. An import
+  /// uses the channel that it finds, so a host makes one with getInstance(databaseFilename), sets its source and calls
+  /// the import, which destroys the channel when it returns. After an exception the host calls cleanInstance().
+  void setSource(std::shared_ptr<Lagomare::QuerySource> source);
+
   /// Writes the one line of the script: executable "database" "sql" flag. Nothing in it is escaped, and the
   /// executable is not quoted. A script that cannot be written is not reported.
   void buildScript(const std::string& sql, bool flag) const;
@@ -51,10 +58,12 @@ private:
   ~LagomareProjectManager();
 
   /// Runs one query and opens its answer.
-  [[nodiscard]] std::ifstream ask(const std::string& sql, bool flag) const;
+  [[nodiscard]] std::unique_ptr<std::istream> ask(const std::string& sql, bool flag) const;
+  [[nodiscard]] std::unique_ptr<std::istream> runScript(const std::string& sql, bool flag) const;
 
   static std::size_t numOfQueries;
 
   std::string databaseFilename;
   std::string apiExecutable;
+  std::shared_ptr<Lagomare::QuerySource> source; ///< null: the script
 };

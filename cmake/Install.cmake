@@ -5,7 +5,7 @@ install(TARGETS telu-qt telu-lagomare-project EXPORT telu-lagomare-project-targe
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(DIRECTORY model access loader elements DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/telu-lagomare-project"
+install(DIRECTORY core/model access loader elements DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/telu-lagomare-project"
   FILES_MATCHING PATTERN "*.h")
 install(FILES "${PROJECT_BINARY_DIR}/include/telu_qt_export.h" "${PROJECT_BINARY_DIR}/include/lagomare_export.h"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/telu-lagomare-project")

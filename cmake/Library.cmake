@@ -7,6 +7,7 @@ add_library(telu-lagomare-project
   access/LagomareProjectManager.cpp
   access/LineReader.cpp
   access/Numbers.cpp
+  access/QuerySource.cpp
   access/ValueColumn.cpp
   elements/common/Demands.cpp
   elements/common/Elements.cpp
@@ -47,9 +48,6 @@ generate_export_header(telu-lagomare-project
 target_include_directories(telu-lagomare-project PUBLIC
   "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR};${PROJECT_BINARY_DIR}/include>"
   "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/telu-lagomare-project>")
-# The core's own headers come first: a host's model/ must not be hidden by the one in this tree.
-target_include_directories(telu-lagomare-project BEFORE PUBLIC
-  "$<BUILD_INTERFACE:$<TARGET_PROPERTY:telu-qt,INTERFACE_INCLUDE_DIRECTORIES>>")
 target_link_libraries(telu-lagomare-project
   PUBLIC telu-qt
   PRIVATE $<BUILD_INTERFACE:lagomare-compiler>)

@@ -1,4 +1,4 @@
-#include "CommandTest.h"
+#include "support/CommandTest.h"
 
 #include <fcntl.h>
 #include <nlohmann/json.hpp>

@@ -1,4 +1,4 @@
-#include "CommandTest.h"
+#include "support/CommandTest.h"
 
 #include <csignal>
 #include <fcntl.h>

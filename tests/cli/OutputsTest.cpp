@@ -1,4 +1,4 @@
-#include "CommandTest.h"
+#include "support/CommandTest.h"
 
 #include <nlohmann/json.hpp>
 #include <sys/stat.h>

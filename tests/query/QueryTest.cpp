@@ -1,7 +1,7 @@
 #include "tests/query/QueryTest.h"
 
 #include "tools/query/Program.h"
-#include "tools/query/Sqlite.h"
+#include "tools/query/sqlite/Sqlite.h"
 #include <fstream>
 #include <iterator>
 #include <regex>
@@ -39,14 +39,14 @@ int statusOfChild(const std::function<void()>& body, rusage* usage) {
 
 QueryTest::QueryTest() {
   std::string name = fs::temp_directory_path() / "lagomare query'$test-XXXXXX";
-  m_directory = mkdtemp(name.data());
-  fs::permissions(m_directory, fs::perms::all);
-  fs::current_path(m_directory);
+  directory_ = mkdtemp(name.data());
+  fs::permissions(directory_, fs::perms::all);
+  fs::current_path(directory_);
 }
 
 QueryTest::~QueryTest() {
-  fs::current_path(m_directory.parent_path());
-  fs::remove_all(m_directory);
+  fs::current_path(directory_.parent_path());
+  fs::remove_all(directory_);
 }
 
 std::string QueryTest::answer(const std::string& database, const std::string& sql) {

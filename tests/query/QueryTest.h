@@ -31,7 +31,7 @@ protected:
   [[nodiscard]] static std::string refusal(const std::string& database, const std::string& sql);
 
 private:
-  std::filesystem::path m_directory;
+  std::filesystem::path directory_;
 };
 
 } // namespace LagomareQuery

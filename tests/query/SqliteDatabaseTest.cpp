@@ -1,4 +1,4 @@
-#include "tools/query/SqliteDatabase.h"
+#include "tools/query/sqlite/SqliteDatabase.h"
 
 #include "tests/query/QueryTest.h"
 #include "tools/query/Program.h"

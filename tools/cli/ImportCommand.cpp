@@ -1,15 +1,15 @@
 #include "tools/cli/ImportCommand.h"
 
 #include "model/TeluUtmDegreeConversion.h"
-#include "tools/cli/ImportRun.h"
 #include "tools/cli/Outputs.h"
 #include "tools/cli/Summary.h"
-#include "tools/cli/Text.h"
+#include "tools/system/Failure.h"
+#include "tools/project/ImportRun.h"
 
 #include <cstdio>
 #include <unistd.h>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 namespace {
 
@@ -42,10 +42,6 @@ int exitCodeOf(const Imported& imported, const std::string& project) {
 
 } // namespace
 
-void printError(const std::string& message) {
-  std::fputs(("lagomare: error: " + oneLine(message) + '\n').c_str(), stderr);
-}
-
 int importProject(const ImportOptions& options) {
   Interruption interruption;
   const Inputs inputs = findInputs(options);
@@ -63,4 +59,4 @@ int importProject(const ImportOptions& options) {
   return exitCodeOf(*imported, options.project);
 }
 
-} // namespace LagomareCli
+} // namespace LagomareTools

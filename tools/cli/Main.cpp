@@ -1,7 +1,7 @@
-#include "tools/cli/Failure.h"
 #include "tools/cli/ImportCommand.h"
-#include "tools/cli/QueryLauncher.h"
-#include "tools/cli/Supervisor.h"
+#include "tools/project/QueryLauncher.h"
+#include "tools/system/Failure.h"
+#include "tools/system/Supervisor.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace LagomareCli;
+using namespace LagomareTools;
 
 constexpr int success = 0;
 constexpr int failure = 1;

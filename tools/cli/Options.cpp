@@ -1,14 +1,14 @@
 #include "tools/cli/Options.h"
 
-#include "tools/cli/Failure.h"
-#include "tools/cli/FileWriter.h"
+#include "tools/system/Failure.h"
+#include "tools/system/FileWriter.h"
 
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <fmt/format.h>
 #include <unistd.h>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 namespace {
 
@@ -129,4 +129,4 @@ std::optional<ImportOptions> parseOptions(int argumentCount, char** arguments) {
   return options;
 }
 
-} // namespace LagomareCli
+} // namespace LagomareTools

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "model/Hemisphere.h"
-#include "tools/cli/Dialect.h"
+#include "tools/project/Dialect.h"
 
 #include <optional>
 #include <string>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 struct UtmZone {
   unsigned number; ///< 1 to 60
@@ -32,4 +32,4 @@ struct ImportOptions {
 /// Nothing where the call only asked for help or for the version, which were printed. Throws UsageError.
 [[nodiscard]] std::optional<ImportOptions> parseOptions(int argumentCount, char** arguments);
 
-} // namespace LagomareCli
+} // namespace LagomareTools

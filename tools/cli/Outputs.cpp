@@ -1,11 +1,11 @@
 #include "tools/cli/Outputs.h"
 
-#include "tools/cli/CsvExport.h"
-#include "tools/cli/Failure.h"
-#include "tools/cli/GeoJsonExport.h"
-#include "tools/cli/JsonExport.h"
+#include "tools/export/CsvExport.h"
+#include "tools/export/GeoJsonExport.h"
+#include "tools/export/JsonExport.h"
+#include "tools/system/Failure.h"
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 namespace {
 
@@ -124,4 +124,4 @@ void Outputs::commit() {
   }
 }
 
-} // namespace LagomareCli
+} // namespace LagomareTools

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tools/cli/Imported.h"
-#include "tools/cli/Inputs.h"
-#include "tools/cli/OutputFile.h"
+#include "tools/project/Imported.h"
+#include "tools/project/Inputs.h"
+#include "tools/system/OutputFile.h"
 
 #include <list>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 /// A folder for outputs; made where it is missing, and then removed again unless something was put into it.
 class OutputFolder {
@@ -41,4 +41,4 @@ private:
   std::optional<OutputFile> json_;
 };
 
-} // namespace LagomareCli
+} // namespace LagomareTools

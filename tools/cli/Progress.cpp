@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 Progress::Progress(bool isWanted) : isDrawn_(isWanted && ::isatty(STDERR_FILENO) != 0) {
   draw("lagomare: reading the project");
@@ -34,4 +34,4 @@ void Progress::draw(const std::string& text) {
   static_cast<void>(::write(STDERR_FILENO, line.data(), line.size()) < 0);
 }
 
-} // namespace LagomareCli
+} // namespace LagomareTools

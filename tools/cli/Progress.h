@@ -3,7 +3,7 @@
 #include <chrono>
 #include <string>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 /// One line on standard error that tells how far the import is, redrawn at each step and gone when this goes. Draws
 /// nothing where it is not wanted or standard error is no terminal.
@@ -24,4 +24,4 @@ private:
   std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
 };
 
-} // namespace LagomareCli
+} // namespace LagomareTools

@@ -1,12 +1,13 @@
 #include "tools/cli/Summary.h"
 
-#include "tools/cli/ScenarioView.h"
-#include "tools/cli/Text.h"
+#include "tools/export/NumberText.h"
+#include "tools/export/ScenarioView.h"
+#include "tools/system/Text.h"
 
 #include <algorithm>
 #include <fmt/format.h>
 
-namespace LagomareCli {
+namespace LagomareTools {
 
 namespace {
 
@@ -70,4 +71,4 @@ std::string summaryOf(const Imported& imported, const std::optional<UtmZone>& zo
   return summary + countsOf(networkOf(scenario));
 }
 
-} // namespace LagomareCli
+} // namespace LagomareTools

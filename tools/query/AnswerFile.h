@@ -22,11 +22,11 @@ public:
 
   /// Room for at least `bytes` (at most `largestRoom`) bytes; whatever is put there counts once taken() is told.
   [[nodiscard]] char* room(std::size_t bytes) {
-    if (m_buffer.size() - m_used < bytes)
+    if (buffer_.size() - used_ < bytes)
       flush();
-    return m_buffer.data() + m_used;
+    return buffer_.data() + used_;
   }
-  void taken(const char* end) { m_used = static_cast<std::size_t>(end - m_buffer.data()); }
+  void taken(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
   static constexpr std::size_t largestRoom = std::size_t{128} * 1024;
 
   /// All rows are written: the answer becomes readable, in one step.
@@ -38,11 +38,11 @@ public:
 private:
   void flush();
 
-  OutputFile m_file;
-  std::array<char, unfinishedLine.size()> m_head{};
-  std::vector<char> m_buffer = std::vector<char>(2 * largestRoom);
-  std::size_t m_used = 0;
-  std::uint64_t m_flushed = 0; // bytes of the answer that left the buffer, those held back included
+  OutputFile file_;
+  std::array<char, unfinishedLine.size()> head_{};
+  std::vector<char> buffer_ = std::vector<char>(2 * largestRoom);
+  std::size_t used_ = 0;
+  std::uint64_t flushed_ = 0; // bytes of the answer that left the buffer, those held back included
 };
 
 } // namespace LagomareQuery

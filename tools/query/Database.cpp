@@ -1,9 +1,9 @@
 #include "tools/query/Database.h"
 
-#include "tools/query/AccessDatabase.h"
 #include "tools/query/DateFormat.h"
 #include "tools/query/QueryError.h"
-#include "tools/query/SqliteDatabase.h"
+#include "tools/query/access/AccessDatabase.h"
+#include "tools/query/sqlite/SqliteDatabase.h"
 #include <array>
 #include <cerrno>
 #include <fstream>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tools/query/FileStamp.h"
-#include "tools/query/Sqlite.h"
+#include "tools/query/sqlite/Sqlite.h"
 #include <optional>
 
 namespace LagomareQuery {

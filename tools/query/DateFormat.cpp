@@ -2,7 +2,7 @@
 
 #include "tools/query/Calendar.h"
 #include "tools/query/QueryError.h"
-#include "tools/query/Sqlite.h"
+#include "tools/query/sqlite/Sqlite.h"
 #include <algorithm>
 #include <cctype>
 

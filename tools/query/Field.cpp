@@ -87,7 +87,7 @@ void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
   // For usual numbers in all columns and an unusual one in one of them.
   const std::size_t roomForNumbers =
       static_cast<std::size_t>(columns * (usualNumberRoom + 1)) + numberRoom + rowEnd.size();
-  char* to = m_answer.room(roomForNumbers);
+  char* to = answer_.room(roomForNumbers);
   for (int column = 0; column < columns; ++column) {
     sqlite3_value* value = sqlite3_column_value(row, column); // unprotected: read by this thread alone
     const int type = sqlite3_value_type(value);
@@ -97,24 +97,24 @@ void FieldWriter::writeRow(sqlite3_stmt* row, int columns) {
       const char* begin = to;
       to = writeNumber(to, sqlite3_value_double(value));
       if (to - begin > usualNumberRoom) {
-        m_answer.taken(to);
-        to = m_answer.room(roomForNumbers);
+        answer_.taken(to);
+        to = answer_.room(roomForNumbers);
       }
     } else if (type != SQLITE_NULL) {
-      m_answer.taken(to);
+      answer_.taken(to);
       type == SQLITE_TEXT ? writeText(bytesOf(value, sqlite3_value_text(value)))
                           : writeHexadecimal(bytesOf(value, sqlite3_value_blob(value)));
-      to = m_answer.room(roomForNumbers);
+      to = answer_.room(roomForNumbers);
     }
     *to++ = ' ';
   }
-  m_answer.taken(append(to, rowEnd));
+  answer_.taken(append(to, rowEnd));
 }
 
 void FieldWriter::writeText(std::string_view text) {
   while (!text.empty()) {
     std::string_view chunk = text.substr(0, chunkBytes);
-    char* to = m_answer.room(chunk.size() + replacementCharacter.size());
+    char* to = answer_.room(chunk.size() + replacementCharacter.size());
     const std::size_t plain = plainLength(chunk);
     to = append(to, chunk.substr(0, plain));
     text.remove_prefix(plain);
@@ -126,7 +126,7 @@ void FieldWriter::writeText(std::string_view text) {
                                                           : character);
       text.remove_prefix(character.size());
     }
-    m_answer.taken(to);
+    answer_.taken(to);
   }
 }
 
@@ -134,12 +134,12 @@ void FieldWriter::writeHexadecimal(std::string_view bytes) {
   static constexpr std::string_view digits = "0123456789ABCDEF";
   while (!bytes.empty()) {
     const std::string_view chunk = bytes.substr(0, chunkBytes);
-    char* to = m_answer.room(2 * chunk.size());
+    char* to = answer_.room(2 * chunk.size());
     for (const char byte : chunk) {
       *to++ = digits[static_cast<unsigned char>(byte) >> 4];
       *to++ = digits[static_cast<unsigned char>(byte) & 0x0F];
     }
-    m_answer.taken(to);
+    answer_.taken(to);
     bytes.remove_prefix(chunk.size());
   }
 }

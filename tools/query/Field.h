@@ -11,7 +11,7 @@ namespace LagomareQuery {
 /// This is the only place that turns a value into a field.
 class FieldWriter {
 public:
-  explicit FieldWriter(AnswerFile& answer) : m_answer(answer) {}
+  explicit FieldWriter(AnswerFile& answer) : answer_(answer) {}
 
   /// The current row of a statement that has just been stepped to it.
   void writeRow(sqlite3_stmt* row, int columns);
@@ -20,7 +20,7 @@ private:
   void writeText(std::string_view text);
   void writeHexadecimal(std::string_view bytes);
 
-  AnswerFile& m_answer;
+  AnswerFile& answer_;
 };
 
 /// Longest text of a number, in bytes: a sign, "0.", 307 zeros and 17 digits.

@@ -82,17 +82,17 @@ void removeFile(const std::string& path) { ::unlink(path.c_str()); }
 
 } // namespace
 
-OutputFile::OutputFile(std::string path, std::string_view content) : m_path(std::move(path)) {
-  m_descriptor = openOrdinary(m_path);
-  if (m_descriptor < 0)
+OutputFile::OutputFile(std::string path, std::string_view content) : path_(std::move(path)) {
+  descriptor_ = openOrdinary(path_);
+  if (descriptor_ < 0)
     replace(content);
   else
     rewrite(content);
 }
 
 OutputFile::~OutputFile() {
-  if (m_descriptor >= 0)
-    closeFile(m_descriptor);
+  if (descriptor_ >= 0)
+    closeFile(descriptor_);
 }
 
 void OutputFile::rewrite(std::string_view content) {
@@ -102,32 +102,32 @@ void OutputFile::rewrite(std::string_view content) {
   } catch (...) {
     // Not even one byte on a full disk: an empty file would pass for an empty answer. Where bytes of an older
     // answer are left, the first of them are overwritten.
-    if (writeSome(m_descriptor, content.substr(0, 1), 0) != 1)
-      removeFile(m_path);
-    closeFile(m_descriptor);
+    if (writeSome(descriptor_, content.substr(0, 1), 0) != 1)
+      removeFile(path_);
+    closeFile(descriptor_);
     throw;
   }
 }
 
 void OutputFile::replace(std::string_view content) {
-  std::string newPath = m_path;
-  m_descriptor = openReplacement(newPath);
-  if (m_descriptor < 0)
+  std::string newPath = path_;
+  descriptor_ = openReplacement(newPath);
+  if (descriptor_ < 0)
     fail(errno);
-  const bool written = writeSome(m_descriptor, content, 0) == static_cast<long long>(content.size());
-  if (written && moveOver(newPath, m_path) == 0)
+  const bool written = writeSome(descriptor_, content, 0) == static_cast<long long>(content.size());
+  if (written && moveOver(newPath, path_) == 0)
     return;
   const int error = errno;
   removeFile(newPath);
-  closeFile(m_descriptor);
+  closeFile(descriptor_);
   fail(error);
 }
 
 void OutputFile::writeAt(std::uint64_t offset, std::string_view bytes) {
-  if (m_descriptor < 0 && (m_descriptor = openOrdinary(m_path)) < 0)
+  if (descriptor_ < 0 && (descriptor_ = openOrdinary(path_)) < 0)
     fail(errno);
   while (!bytes.empty()) {
-    const long long written = writeSome(m_descriptor, bytes, offset);
+    const long long written = writeSome(descriptor_, bytes, offset);
     if (written < 0 && errno == EINTR)
       continue;
     if (written <= 0)
@@ -138,19 +138,19 @@ void OutputFile::writeAt(std::uint64_t offset, std::string_view bytes) {
 }
 
 void OutputFile::truncate(std::uint64_t size) {
-  if (setSize(m_descriptor, size) != 0)
+  if (setSize(descriptor_, size) != 0)
     fail(errno);
 }
 
 void OutputFile::close() {
-  const int descriptor = m_descriptor;
-  m_descriptor = -1;
+  const int descriptor = descriptor_;
+  descriptor_ = -1;
   if (closeFile(descriptor) != 0)
     fail(errno);
 }
 
 void OutputFile::fail(int error) const {
-  throw QueryError("'" + m_path +
+  throw QueryError("'" + path_ +
                    "' cannot be written in the working directory: " + std::generic_category().message(error) +
                    "; make room for it, or start in a folder that you may write to");
 }

@@ -28,8 +28,8 @@ private:
   void rewrite(std::string_view content);
   [[noreturn]] void fail(int error) const;
 
-  std::string m_path;
-  int m_descriptor = -1;
+  std::string path_;
+  int descriptor_ = -1;
 };
 
 } // namespace LagomareQuery

@@ -3,7 +3,7 @@
 #include "tools/query/Database.h"
 #include "tools/query/Field.h"
 #include "tools/query/QueryError.h"
-#include "tools/query/StoredOrder.h"
+#include "tools/query/sqlite/StoredOrder.h"
 #include <cstdlib>
 #include <iostream>
 #include <new>

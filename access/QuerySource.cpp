@@ -1,0 +1,7 @@
+#include "access/QuerySource.h"
+
+namespace Lagomare {
+
+QuerySource::~QuerySource() = default;
+
+} // namespace Lagomare

@@ -1,0 +1,96 @@
+#include "support/CommandTest.h"
+
+#include <csignal>
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class QueryLauncherTest : public CommandTest {
+protected:
+  static Ending importBy(const std::string& script, const std::vector<std::string>& more = {}) {
+    std::vector<std::string> words{"basin.db", "--quiet", "--query-executable", executable(script)};
+    words.insert(words.end(), more.begin(), more.end());
+    return import(words);
+  }
+};
+
+TEST_F(QueryLauncherTest, StartsTheExecutableByItsOwnPathWithTheArgumentsUnchanged) {
+  project("", "basin.db");
+  const std::string outside = fs::current_path().string();
+  writeFile("log name", "");
+  const Ending ending =
+      importBy("log=$(dirname \"$0\")/calls; printf '%s|' \"$0\" \"$@\" >> \"$log\"; cat >> \"$log\";\n"
+               "echo noise; echo noise >&2; kill -l >/dev/null; answer \"$@\"; exit 3");
+  EXPECT_EQ(ending.exitCode, 0);
+  EXPECT_EQ(ending.out + ending.err, "");
+  EXPECT_THAT(readFile("calls"),
+              StartsWith(outside + "/own query|lagomare-project.db|select count(*) from DefGerais|0|"));
+  EXPECT_THAT(readFile("calls"), HasSubstr("|select NumPto, Valor from LgmVazNat |1|"));
+}
+
+TEST_F(QueryLauncherTest, AnAnswerThatWasNotWrittenIsAnError) {
+  project();
+  for (const std::string fault : {"exit 0", "echo 'out of order' >&2; exit", "rm query-result.txt; exit", "kill -9 $$",
+                                  "answer \"$@\"; kill -9 $$"}) {
+    // Late, when an old answer could be read again.
+    const Ending ending = importBy("case \"$2\" in *LgmResPrior) " + fault + ";; esac; answer \"$@\"");
+    EXPECT_EQ(ending.exitCode, 1) << fault;
+    EXPECT_THAT(ending.err, AllOf(HasSubstr("table LgmResPrior: cannot be read: the query executable /"),
+                                  HasSubstr("own query did not answer")));
+    if (fault.find("order") != std::string::npos) {
+      EXPECT_THAT(ending.err, HasSubstr("did not answer: out of order"));
+    }
+  }
+}
+
+TEST_F(QueryLauncherTest, WithstandsHostileExecutables) {
+  project();
+  EXPECT_EQ(importBy(": > query-result.txt", {"--dialect", "2013"}).exitCode, 4); // an answer without rows
+  EXPECT_EQ(importBy("rm -rf \"$PWD\"", {"--dialect", "2013"}).exitCode, 1);
+  EXPECT_EQ(importBy("rm -rf \"$PWD\"/*", {"--dialect", "2013"}).exitCode, 1);
+  EXPECT_THAT(importBy("echo 'hello you .' > query-result.txt").err,
+              HasSubstr("answered \"hello you .\", which is no row"));
+  EXPECT_THAT(importBy("answer \"$@\"; sed -i 's/ [.]$//' query-result.txt", {"--dialect", "2013"}).err,
+              HasSubstr("one more field at the end of each line"));
+  EXPECT_THAT(importBy("answer \"$@\"; sed -i 's/ 1 0 [.]$/ ./' query-result.txt").err,
+              HasSubstr("is missing from the row"));
+  writeFile("own query", "#!/no/such/interpreter\n");
+  EXPECT_THAT(import({"basin.db", "--query-executable", "own query"}).err,
+              HasSubstr("it cannot be started: No such file"));
+}
+
+TEST_F(QueryLauncherTest, WhatAQueryLeavesRunningEndsWithIt) {
+  project();
+  const LifeLine alive("alive");
+  const Ending ending = importBy("answer \"$@\"; case \"$2\" in *LgmResPrior)\n"
+                                 "exec 3> \"${0%/*}/alive\"; (trap '' HUP; sleep 1000) & ;; esac");
+  EXPECT_EQ(ending.exitCode, 0) << ending.err;
+  EXPECT_TRUE(alive.awaitEnd());
+}
+
+TEST_F(QueryLauncherTest, AProjectThatChangesWhileItIsReadIsAnError) {
+  project();
+  const Ending ending =
+      importBy("answer \"$@\"; case \"$2\" in *LgmResPrior) touch -t 203001010000 \"${0%/*}/basin.db\";; esac",
+               {"--json", "out.json"});
+  EXPECT_EQ(ending.exitCode, 1);
+  EXPECT_THAT(ending.err, HasSubstr("basin.db: was changed while it was read"));
+  EXPECT_FALSE(fs::exists("out.json"));
+}
+
+TEST_F(QueryLauncherTest, TheExecutableHearsSignalsAsUsual) {
+  project();
+  // Read by the shell itself: while it starts a program it blocks signals.
+  EXPECT_EQ(importBy("while read -r line; do echo \"$line\"; done </proc/$$/status >\"${0%/*}/status\"\n"
+                     "answer \"$@\"")
+                .exitCode,
+            0);
+  for (const std::string field : {"SigBlk:", "SigIgn:"}) {
+    const std::string status = readFile("status");
+    const unsigned long long deaf = std::stoull(status.substr(status.find(field) + field.size()), nullptr, 16);
+    for (const int signal : {SIGINT, SIGTERM, SIGQUIT, SIGHUP, SIGPIPE})
+      EXPECT_EQ(deaf >> (signal - 1) & 1U, 0U) << field << signal;
+  }
+}

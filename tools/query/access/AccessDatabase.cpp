@@ -1,0 +1,17 @@
+#include "tools/query/access/AccessDatabase.h"
+
+#include "tools/query/access/AccessModule.h"
+
+namespace LagomareQuery {
+
+Database openAccessDatabase(const std::filesystem::path& file) {
+  const FileStamp stamp = FileStamp::of(file);
+  const auto pages = std::make_shared<AccessFile>(file);
+  Connection connection = openConnection(":memory:", SQLITE_OPEN_READWRITE);
+  prepareForQueries(connection.get());
+  for (const AccessObject& object : readCatalog(*pages))
+    registerAccessTable(connection.get(), *pages, object);
+  return {pages, std::move(connection), file, stamp};
+}
+
+} // namespace LagomareQuery

@@ -1,0 +1,55 @@
+#include "tools/query/access/AccessLongValue.h"
+
+namespace LagomareQuery {
+
+namespace {
+
+constexpr std::size_t headerSize = 12; // length and where, pointer, four bytes of no known use
+constexpr std::uint32_t inCellFlag = 0x80000000;
+constexpr std::uint32_t inOneRowFlag = 0x40000000;
+constexpr std::uint32_t lengthMask = 0x3FFFFFFF;
+
+void append(std::vector<std::uint8_t>& bytes, AccessBytes part) {
+  bytes.insert(bytes.end(), part.data(), part.data() + part.size());
+}
+
+AccessBytes readLongValueRow(const AccessFile& file, AccessRowId row, AccessPage& page) {
+  constexpr std::uint32_t ownerMark = 'L' | 'V' << 8 | 'A' << 16 | 'L' << 24; // in place of a table
+  const AccessBytes bytes = readRow(file, row, page);
+  if (page.bytes().u32(4) != ownerMark)
+    throwDamaged("a long text that stands on a page of a table, page " + std::to_string(row.page));
+  return bytes;
+}
+
+/// Each row begins with a pointer to the next one.
+void appendChain(const AccessFile& file, std::uint32_t pointer, std::size_t length, std::vector<std::uint8_t>& bytes) {
+  AccessPage page;
+  while (bytes.size() < length) {
+    const AccessBytes row = readLongValueRow(file, AccessRowId::stored(pointer), page);
+    const AccessBytes part = row.from(4);
+    if (part.size() == 0 || part.size() > length - bytes.size())
+      throwDamaged("a long text whose parts are not of its length");
+    append(bytes, part);
+    pointer = row.u32(0);
+  }
+}
+
+} // namespace
+
+std::vector<std::uint8_t> readLongValue(const AccessFile& file, AccessBytes cell) {
+  const std::uint32_t lengthAndFlags = cell.u32(0);
+  const std::uint32_t length = lengthAndFlags & lengthMask;
+  const std::uint32_t pointer = cell.u32(4);
+  std::vector<std::uint8_t> bytes;
+  if ((lengthAndFlags & inCellFlag) != 0) {
+    append(bytes, cell.from(headerSize).part(0, length));
+  } else if ((lengthAndFlags & inOneRowFlag) != 0) {
+    AccessPage page;
+    append(bytes, readLongValueRow(file, AccessRowId::stored(pointer), page).part(0, length));
+  } else {
+    appendChain(file, pointer, length, bytes);
+  }
+  return bytes;
+}
+
+} // namespace LagomareQuery

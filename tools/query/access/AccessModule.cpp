@@ -1,0 +1,146 @@
+#include "tools/query/access/AccessModule.h"
+
+#include "tools/query/QueryError.h"
+#include "tools/query/access/AccessCell.h"
+#include "tools/query/access/AccessScan.h"
+#include "tools/query/sqlite/Sqlite.h"
+#include <memory>
+#include <new>
+
+namespace LagomareQuery {
+
+namespace {
+
+struct Source {
+  const AccessFile& file;
+  AccessObject object;
+};
+
+struct Table : sqlite3_vtab {
+  Table(const AccessFile& accessFile, AccessTable accessTable)
+      : sqlite3_vtab{}, file(accessFile), table(std::move(accessTable)) {}
+  const AccessFile& file;
+  const AccessTable table;
+};
+
+struct Cursor : sqlite3_vtab_cursor {
+  explicit Cursor(const Table& table) : sqlite3_vtab_cursor{}, scan(table.file, table.table) {}
+  AccessScan scan;
+  bool atEnd = false;
+  sqlite3_int64 row = 0;
+};
+
+/// Calls `body`, for no exception may pass through SQLite: what it throws becomes the text at `error`.
+template <typename Body>
+int guarded(char** error, Body body) {
+  try {
+    body();
+    return SQLITE_OK;
+  } catch (const std::bad_alloc&) {
+    return SQLITE_NOMEM;
+  } catch (const std::exception& exception) {
+    sqlite3_free(*error);
+    *error = sqlite3_mprintf("%s", exception.what());
+    return SQLITE_ERROR;
+  }
+}
+
+std::string declaration(const AccessTable& table) {
+  std::string columns;
+  for (const AccessColumn& column : table.columns)
+    columns += (columns.empty() ? "" : ", ") + quotedName(column.name) + " " + sqlType(column.type);
+  return "CREATE TABLE x(" + columns + ")";
+}
+
+int connect(sqlite3* connection, void* source, int, const char* const*, sqlite3_vtab** table, char** error) {
+  return guarded(error, [&] {
+    const auto& [file, object] = *static_cast<const Source*>(source);
+    if (object.linked)
+      throw QueryError("table " + object.name + " is only linked here; it stands in another database");
+    auto opened = std::make_unique<Table>(file, readTable(file, object.name, object.definitionPage));
+    if (sqlite3_declare_vtab(connection, declaration(opened->table).c_str()) != SQLITE_OK)
+      throwDamaged("the columns of table " + object.name);
+    *table = opened.release();
+  });
+}
+
+int disconnect(sqlite3_vtab* table) {
+  delete static_cast<Table*>(table);
+  return SQLITE_OK;
+}
+
+/// There is one way to read a table: from its first row to its last.
+int planScan(sqlite3_vtab* table, sqlite3_index_info* plan) {
+  const std::uint32_t rows = static_cast<Table*>(table)->table.rowCount;
+  plan->estimatedRows = rows;
+  plan->estimatedCost = rows;
+  return SQLITE_OK;
+}
+
+int open(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor) {
+  return guarded(&table->zErrMsg, [&] { *cursor = new Cursor(*static_cast<Table*>(table)); });
+}
+
+int close(sqlite3_vtab_cursor* cursor) {
+  delete static_cast<Cursor*>(cursor);
+  return SQLITE_OK;
+}
+
+int next(sqlite3_vtab_cursor* cursor) {
+  return guarded(&cursor->pVtab->zErrMsg, [&] {
+    auto& walk = *static_cast<Cursor*>(cursor);
+    walk.atEnd = !walk.scan.next();
+    ++walk.row;
+  });
+}
+
+int rewind(sqlite3_vtab_cursor* cursor, int, const char*, int, sqlite3_value**) {
+  auto& walk = *static_cast<Cursor*>(cursor);
+  walk.scan.restart();
+  walk.row = 0;
+  return next(cursor);
+}
+
+int isAtEnd(sqlite3_vtab_cursor* cursor) { return static_cast<Cursor*>(cursor)->atEnd ? 1 : 0; }
+
+int giveColumn(sqlite3_vtab_cursor* cursor, sqlite3_context* context, int column) {
+  return guarded(&cursor->pVtab->zErrMsg, [&] {
+    const auto& table = *static_cast<const Table*>(cursor->pVtab);
+    const AccessRecord& record = static_cast<Cursor*>(cursor)->scan.record();
+    giveCell(context, table.file, table.table.columns[static_cast<std::size_t>(column)], record);
+  });
+}
+
+int giveRowid(sqlite3_vtab_cursor* cursor, sqlite3_int64* rowid) {
+  *rowid = static_cast<Cursor*>(cursor)->row;
+  return SQLITE_OK;
+}
+
+/// Without xCreate a module's table is there under the module's own name.
+sqlite3_module makeModule() {
+  sqlite3_module module{};
+  module.xConnect = connect;
+  module.xDisconnect = disconnect;
+  module.xBestIndex = planScan;
+  module.xOpen = open;
+  module.xClose = close;
+  module.xFilter = rewind;
+  module.xNext = next;
+  module.xEof = isAtEnd;
+  module.xColumn = giveColumn;
+  module.xRowid = giveRowid;
+  return module;
+}
+
+} // namespace
+
+void registerAccessTable(sqlite3* connection, const AccessFile& file, const AccessObject& object) {
+  static const sqlite3_module module = makeModule();
+  auto source = std::make_unique<Source>(Source{file, object});
+  const auto destroy = [](void* owned) { delete static_cast<Source*>(owned); };
+  // SQLite owns the source from here on, even where it fails.
+  if (sqlite3_create_module_v2(connection, object.name.c_str(), &module, source.release(), destroy) != SQLITE_OK)
+    throwSqliteError(connection);
+}
+
+} // namespace LagomareQuery

@@ -1,0 +1,62 @@
+#include "tools/query/access/AccessRecord.h"
+
+namespace LagomareQuery {
+
+namespace {
+
+std::size_t count(AccessBytes bytes, std::size_t offset, const AccessFormat& format) {
+  return format.countSize == 1 ? bytes.u8(offset) : bytes.u16(offset);
+}
+
+/// `size` less `parts`; the file is damaged where the parts are more.
+std::size_t before(std::size_t size, std::size_t parts) {
+  if (parts > size)
+    throwDamaged("a row that is shorter than its parts");
+  return size - parts;
+}
+
+} // namespace
+
+AccessRecord::AccessRecord(AccessBytes row, const AccessTable& table, const AccessFormat& format)
+    : row_(row), format_(&format), columnCount_(count(row, 0, format)),
+      dataEnd_(before(row.size(), (columnCount_ + 7) / 8)) {
+  if (!table.hasVariableColumns)
+    return;
+  const std::size_t countOffset = before(dataEnd_, format.countSize);
+  variableCount_ = count(row, countOffset, format);
+  offsetsEnd_ = countOffset;
+  if (!format.utf16) { // Jet3: the jump table stands between the offsets and their count
+    jumpCount_ = (row.size() - 1) / 256;
+    jumpsEnd_ = countOffset;
+    offsetsEnd_ = before(countOffset, jumpCount_);
+  }
+  const std::size_t offsets = before(offsetsEnd_, (variableCount_ + 1) * format.countSize);
+  // The last jump may be a dummy, for the offsets themselves.
+  if (jumpCount_ > 0 && offsets / 256 < jumpCount_)
+    --jumpCount_;
+}
+
+std::size_t AccessRecord::variableOffset(std::size_t index) const {
+  const std::size_t offset = count(row_, offsetsEnd_ - (index + 1) * format_->countSize, *format_);
+  std::size_t jumps = 0;
+  while (jumps < jumpCount_ && row_.u8(jumpsEnd_ - 1 - jumps) <= index)
+    ++jumps;
+  return offset + 256 * jumps;
+}
+
+AccessBytes AccessRecord::cell(const AccessColumn& column) const {
+  if (column.fixed) {
+    const std::size_t offset = format_->countSize + column.fixedOffset;
+    const std::size_t size = fixedSize(column);
+    return row_.part(offset, size <= before(dataEnd_, offset) ? size : row_.size());
+  }
+  if (column.variableIndex >= variableCount_)
+    throwDamaged("a row without a cell of column " + column.name);
+  const std::size_t begin = variableOffset(column.variableIndex);
+  const std::size_t end = variableOffset(column.variableIndex + std::size_t{1});
+  if (begin > end || end > dataEnd_)
+    throwDamaged("a cell that ends outside its row");
+  return row_.part(begin, end - begin);
+}
+
+} // namespace LagomareQuery

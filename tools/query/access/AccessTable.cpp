@@ -1,0 +1,76 @@
+#include "tools/query/access/AccessTable.h"
+
+#include "tools/query/access/AccessUsageMap.h"
+
+namespace LagomareQuery {
+
+namespace {
+
+constexpr std::size_t pageHeader = 8;
+constexpr std::size_t nextPageOffset = 4; // of table definitions
+constexpr std::size_t ownerOffset = 4;    // of data pages: the table's definition page
+constexpr std::size_t mostDefinitionPages = 256;
+
+/// The definition's bytes from all of its pages, as if they stood on one.
+std::vector<std::uint8_t> definitionBytes(const AccessFile& file, std::uint32_t pageNumber) {
+  std::vector<std::uint8_t> bytes;
+  AccessPage page;
+  for (std::size_t pages = 0; pages == 0 || pageNumber != 0; ++pages) {
+    if (pages == mostDefinitionPages)
+      throwDamaged("a table definition without end");
+    file.read(pageNumber, page);
+    if (!page.is(AccessPage::Kind::tableDefinition))
+      throwDamaged("page " + std::to_string(pageNumber) + " is no table definition");
+    const AccessBytes part = page.bytes().from(pages == 0 ? 0 : pageHeader);
+    bytes.insert(bytes.end(), part.data(), part.data() + part.size());
+    pageNumber = page.bytes().u32(nextPageOffset);
+  }
+  return bytes;
+}
+
+std::size_t liveRows(const AccessPage& page, const AccessFormat& format) {
+  std::size_t live = 0;
+  for (std::size_t slot = 0, count = rowCount(page, format); slot < count; ++slot)
+    if (slotOf(page, format, slot) != AccessSlot::deleted)
+      ++live;
+  return live;
+}
+
+/// The usage map marks a few pages that are no longer the table's; whether those that are left are all of them, the
+/// number of rows tells.
+std::vector<std::uint32_t> dataPages(const AccessFile& file, AccessTable& table, std::uint32_t definitionPage,
+                                     AccessRowId usageMap) {
+  std::vector<std::uint32_t> own;
+  std::size_t rows = 0;
+  const std::vector<std::uint32_t> marked = pagesOf(file, usageMap);
+  AccessPage page;
+  for (const std::uint32_t pageNumber : marked) {
+    file.read(pageNumber, page);
+    if (!page.is(AccessPage::Kind::data) || page.bytes().u32(ownerOffset) != definitionPage)
+      continue;
+    own.push_back(pageNumber);
+    rows += liveRows(page, file.format());
+  }
+  const bool unknown = table.rowCount == 0 && own.size() == marked.size();
+  if (rows != table.rowCount && !unknown)
+    throwDamaged("table " + table.name + " has " + std::to_string(rows) + " rows where " +
+                 std::to_string(table.rowCount) + " should be");
+  return own;
+}
+
+} // namespace
+
+AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t definitionPage) {
+  const std::vector<std::uint8_t> bytes = definitionBytes(file, definitionPage);
+  const AccessBytes definition(bytes.data(), bytes.size());
+  const AccessFormat& format = file.format();
+  AccessTable table;
+  table.name = std::move(name);
+  table.rowCount = definition.u32(format.rowCount);
+  table.hasVariableColumns = definition.u16(format.variableColumnCount) != 0;
+  table.columns = readColumns(file, table.name, definition);
+  table.dataPages = dataPages(file, table, definitionPage, AccessRowId::stored(definition.u32(format.usageMap)));
+  return table;
+}
+
+} // namespace LagomareQuery

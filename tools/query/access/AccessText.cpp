@@ -1,0 +1,68 @@
+#include "tools/query/access/AccessText.h"
+
+#include "tools/query/Utf8.h"
+
+namespace LagomareQuery {
+
+namespace {
+
+/// Puts UTF-16 units together into characters.
+class Utf16Appender {
+public:
+  explicit Utf16Appender(std::string& text) : text_(text) {}
+  ~Utf16Appender() { flush(); }
+
+  void append(std::uint32_t unit) {
+    const bool completes = high_ != 0 && unit >= 0xDC00 && unit <= 0xDFFF;
+    if (completes) {
+      appendUtf8(text_, 0x10000 + ((high_ - 0xD800) << 10) + (unit - 0xDC00));
+      high_ = 0;
+      return;
+    }
+    flush();
+    if (unit >= 0xD800 && unit <= 0xDBFF)
+      high_ = unit;
+    else
+      appendUtf8(text_, unit);
+  }
+
+private:
+  void flush() {
+    if (high_ != 0)
+      appendUtf8(text_, high_);
+    high_ = 0;
+  }
+
+  std::string& text_;
+  std::uint32_t high_ = 0; // first half of a surrogate pair, waiting for the second
+};
+
+void appendCompressed(AccessBytes stored, Utf16Appender& text) {
+  bool oneByte = true;
+  for (std::size_t i = 0; i < stored.size();) {
+    if (stored.u8(i) == 0) {
+      oneByte = !oneByte;
+      ++i;
+    } else if (oneByte) {
+      text.append(stored.u8(i++));
+    } else if (i + 2 <= stored.size()) {
+      text.append(stored.u16(i));
+      i += 2;
+    } else {
+      return;
+    }
+  }
+}
+
+} // namespace
+
+void appendUtf16(AccessBytes stored, std::string& text) {
+  constexpr std::uint16_t compressedMark = 0xFEFF; // the bytes FF FE
+  Utf16Appender appender(text);
+  if (stored.size() >= 2 && stored.u16(0) == compressedMark)
+    return appendCompressed(stored.from(2), appender);
+  for (std::size_t i = 0; i + 2 <= stored.size(); i += 2)
+    appender.append(stored.u16(i));
+}
+
+} // namespace LagomareQuery

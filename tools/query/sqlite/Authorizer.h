@@ -1,0 +1,30 @@
+#pragma once
+
+#include "tools/query/sqlite/Select.h"
+
+namespace LagomareQuery {
+
+/// Lets a connection compile only what reads, for as long as this lives.
+class Authorizer {
+public:
+  Authorizer(sqlite3* connection, TableAccess access);
+  ~Authorizer();
+  Authorizer(const Authorizer&) = delete;
+  Authorizer& operator=(const Authorizer&) = delete;
+
+  /// Why a statement was refused; empty if none was.
+  [[nodiscard]] const std::string& refusal() const { return refusal_; }
+
+private:
+  static int decide(void* self, int action, const char* first, const char* second, const char* schema,
+                    const char* view);
+  [[nodiscard]] static std::string refusalOf(int action, const std::string& table, const std::string& function);
+  [[nodiscard]] std::string refusalOfReading(const std::string& table, const std::string& column,
+                                             const std::string& schema, const std::string& view) const;
+
+  sqlite3* connection_;
+  TableAccess access_;
+  std::string refusal_;
+};
+
+} // namespace LagomareQuery

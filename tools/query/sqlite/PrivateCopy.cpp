@@ -1,0 +1,78 @@
+#include "tools/query/sqlite/PrivateCopy.h"
+
+#include "tools/query/FileStamp.h"
+#include "tools/query/QueryError.h"
+#include <array>
+#include <random>
+
+namespace LagomareQuery {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<const char*, 3> parts = {"", "-wal", "-journal"};
+
+fs::path part(const fs::path& database, const char* suffix) { return fs::path(database) += suffix; }
+
+constexpr const char* cannotCopy =
+    "the database has changes in a -wal or -journal file, and no copy could be made to read them from (TMPDIR says "
+    "where); make room there, or open and close the database once in the program that wrote it: ";
+
+fs::path makePrivateDirectory() {
+  std::error_code error;
+  std::random_device random;
+  for (int attempt = 0; attempt < 100 && !error; ++attempt) {
+    fs::path directory = fs::temp_directory_path(error) / ("lagomare-query-" + std::to_string(random()));
+    if (!error && fs::create_directory(directory, error)) {
+      fs::permissions(directory, fs::perms::owner_all, error);
+      return directory;
+    }
+  }
+  throw QueryError(cannotCopy + error.message());
+}
+
+} // namespace
+
+PrivateCopy::PrivateCopy(const fs::path& database)
+    : directory_(makePrivateDirectory()), copy_(directory_ / "database") {
+  try {
+    for (int attempt = 0; attempt < 3; ++attempt)
+      if (copyFrom(database))
+        return;
+    throw QueryError("another program is writing to the database; close it there, then try again");
+  } catch (const fs::filesystem_error& error) {
+    removeFiles();
+    throw QueryError(std::string(cannotCopy) + error.code().message());
+  } catch (...) {
+    removeFiles();
+    throw;
+  }
+}
+
+PrivateCopy::~PrivateCopy() { removeFiles(); }
+
+void PrivateCopy::removeFiles() noexcept {
+  std::error_code ignored;
+  if (!directory_.empty())
+    fs::remove_all(directory_, ignored);
+}
+
+/// False where a file was changed meanwhile: the copies would not fit together.
+bool PrivateCopy::copyFrom(const fs::path& database) {
+  std::array<FileStamp, parts.size()> before;
+  for (std::size_t i = 0; i < parts.size(); ++i)
+    before[i] = FileStamp::of(part(database, parts[i]));
+  for (const char* suffix : parts) {
+    fs::remove(part(copy_, suffix));
+    std::error_code impossible; // a name that is too long: no such file then
+    if (fs::exists(part(database, suffix), impossible))
+      fs::copy_file(part(database, suffix), part(copy_, suffix));
+  }
+  for (std::size_t i = 0; i < parts.size(); ++i)
+    if (!(before[i] == FileStamp::of(part(database, parts[i]))))
+      return false;
+  return true;
+}
+
+} // namespace LagomareQuery

@@ -1,0 +1,97 @@
+#include "tools/system/Text.h"
+
+#include <fmt/format.h>
+
+namespace LagomareTools {
+
+namespace {
+
+constexpr std::string_view noBreakSpace = "\xC2\xA0";
+constexpr std::string_view replacement = "\xEF\xBF\xBD"; // U+FFFD
+
+/// Whether the second byte fits the first: no overlong form, no surrogate, nothing above U+10FFFF.
+bool isSecondByte(unsigned lead, unsigned second) {
+  const unsigned lowest = lead == 0xE0 ? 0xA0U : lead == 0xF0 ? 0x90U : 0x80U;
+  const unsigned highest = lead == 0xED ? 0x9FU : lead == 0xF4 ? 0x8FU : 0xBFU;
+  return second >= lowest && second <= highest;
+}
+
+/// Bytes of the character that a text, not empty, begins with; 0 where it begins with none.
+std::size_t characterLength(std::string_view text) {
+  const auto byte = [text](std::size_t index) {
+    return static_cast<unsigned>(static_cast<unsigned char>(text[index]));
+  };
+  const unsigned lead = byte(0);
+  if (lead < 0x80)
+    return 1;
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || text.size() < length || !isSecondByte(lead, byte(1)))
+    return 0;
+  for (std::size_t index = 2; index < length; ++index)
+    if ((byte(index) & 0xC0U) != 0x80)
+      return 0;
+  return length;
+}
+
+/// Calls visit(character) for each character, and with an empty one after a byte that is none: visit(character, byte).
+template <typename Visit>
+void forEachCharacter(std::string_view text, Visit visit) {
+  while (!text.empty()) {
+    const std::size_t length = characterLength(text);
+    visit(text.substr(0, length), static_cast<unsigned char>(text.front()));
+    text.remove_prefix(length == 0 ? 1 : length);
+  }
+}
+
+bool isControl(std::string_view character) {
+  const auto lead = static_cast<unsigned char>(character.front());
+  if (character.size() == 1)
+    return lead < 0x20 || lead == 0x7F;
+  return (lead == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0) || character == "\xE2\x80\xA8" ||
+         character == "\xE2\x80\xA9"; // U+0080 to U+009F, the line and the paragraph separator
+}
+
+std::string escaped(std::string_view bytes) {
+  if (bytes == "\n")
+    return "\\n";
+  std::string text;
+  for (const char byte : bytes)
+    text += fmt::format("\\x{:02X}", static_cast<unsigned char>(byte));
+  return text;
+}
+
+} // namespace
+
+std::string plainText(std::string_view text) {
+  std::string plain;
+  forEachCharacter(text, [&plain](std::string_view character, unsigned char) {
+    plain += character.empty() ? replacement : character == noBreakSpace ? " " : character;
+  });
+  return plain;
+}
+
+std::string oneLine(std::string_view text) {
+  std::string line;
+  forEachCharacter(text, [&line](std::string_view character, unsigned char byte) {
+    if (character.empty())
+      line += fmt::format("\\x{:02X}", byte);
+    else if (character == noBreakSpace)
+      line += ' ';
+    else if (isControl(character))
+      line += escaped(character);
+    else
+      line += character;
+  });
+  return line;
+}
+
+std::string excerpt(const std::string& text) {
+  std::size_t length = 200;
+  if (text.size() <= length)
+    return text;
+  while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80) // not within a character
+    --length;
+  return text.substr(0, length) + "...";
+}
+
+} // namespace LagomareTools
