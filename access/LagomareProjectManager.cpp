@@ -37,6 +37,8 @@ std::size_t LagomareProjectManager::getNumOfQueries() { return numOfQueries; }
 LagomareProjectManager::LagomareProjectManager(std::string databaseFile) : databaseFilename(std::move(databaseFile)) {}
 
 LagomareProjectManager::~LagomareProjectManager() {
+  if (source != nullptr) // the files of these names are not the channel's
+    return;
   static_cast<void>(std::remove(scriptFile.c_str())); // it may never have been written
   static_cast<void>(std::remove(fileResultQuery.c_str()));
 }
@@ -65,6 +67,8 @@ std::unique_ptr<std::istream> LagomareProjectManager::ask(const std::string& sql
   if (source == nullptr)
     return runScript(sql, flag);
   auto answer = source->ask(sql, flag);
+  if (answer == nullptr || !answer->good()) // a file that cannot be opened would pass for an empty table
+    throw std::runtime_error("LagomareProjectManager::query: the source gave no answer that can be read: " + sql);
   answer->exceptions(std::ios::badbit); // a stream by itself would take its buffer's exception for the end
   return answer;
 }

@@ -10,10 +10,11 @@
 #include <memory>
 #include <string>
 
-/// The channel to a legacy database: asks an external query executable, which writes its answer to a file.
+/// The channel to a legacy database: asks an external query executable, which writes its answer to a file, or a source
+/// that the host gave it.
 ///
-/// One channel per process, owned by the class itself; one query at a time per process and working directory.
-/// Between queries the script and the last answer stay on disk; destroying the channel deletes them.
+/// One channel per process, owned by the class itself; one query at a time per process and, without a source, per
+/// working directory. Between queries the script and the last answer stay on disk; destroying the channel deletes them.
 class LAGOMARE_EXPORT LagomareProjectManager {
 public:
   static const std::string scriptFile;                   ///< "script.bat", in the working directory
@@ -38,16 +39,20 @@ public:
 
   void setApiExecutable(const std::string& path);
 
-  /// From now on, for the life of this channel, this source answers the queries; no script is written or run. An import
-  /// uses the channel that it finds, so a host makes one with getInstance(databaseFilename), sets its source and calls
-  /// the import, which destroys the channel when it returns. After an exception the host calls cleanInstance().
+  /// From now on this source answers the queries: no script is written or run, and the working directory is left alone.
+  /// The channel shares the source until it is destroyed. An import uses the channel that it finds, so a host calls
+  /// getInstance(databaseFilename)->setSource(source) and then the import, which destroys the channel when it returns.
+  /// After an exception the channel is still there: the host calls cleanInstance(). A null pointer brings the script
+  /// back.
   void setSource(std::shared_ptr<Lagomare::QuerySource> source);
 
   /// Writes the one line of the script: executable "database" "sql" flag. Nothing in it is escaped, and the
   /// executable is not quoted. A script that cannot be written is not reported.
   void buildScript(const std::string& sql, bool flag) const;
 
-  /// Runs one query. An answer that cannot be opened is empty; that the executable failed is not noticed: an
+  /// Runs one query. With a source: throws what the source throws, unchanged, and std::runtime_error
+  /// "LagomareProjectManager::query: the source gave no answer that can be read: SQL" for a stream that is null or not
+  /// good. With the script: an answer that cannot be opened is empty; that the executable failed is not noticed, so an
   /// old answer would be read again. Throws as Lagomare::parseRows does.
   [[nodiscard]] QueryResult query(const std::string& sql, bool flag) const;
   /// The same for a query of an id and one value.

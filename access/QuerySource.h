@@ -8,22 +8,26 @@
 
 namespace Lagomare {
 
-/// Something that answers queries on one legacy database. A host gives one to the query channel
-/// (LagomareProjectManager::setSource) to answer its queries without the script and the answer file.
+/// Answers the queries on one legacy database. A host gives one to the query channel
+/// (LagomareProjectManager::setSource), which then writes no script and reads no answer file.
 ///
-/// What an import relies on and promises:
+/// What a source may rely on:
 /// - Queries come one at a time, on the importing thread, in the import's order. The stream of an answer is destroyed
-///   before the next query comes.
+///   before the next query comes, also after an exception.
+/// - An exception, from ask() or from the stream's buffer in the middle of an answer, leaves the import unchanged,
+///   whatever its type. Nothing of that answer is kept.
+///
+/// What the import relies on:
 /// - An answer is text: one line per row, in stored order, each field followed by one blank, then one more field, which
 ///   is not data. It may be read while it is still being made.
-/// - A query that cannot be answered throws, from ask() or, once part of the answer has been read, from the stream's
-///   buffer. The exception leaves the import unchanged, and nothing of that answer is kept.
+/// - The end of the stream is the end of a complete answer. A source that cannot complete an answer throws: an answer
+///   that just ends is taken for a whole one.
 class LAGOMARE_EXPORT QuerySource {
 public:
   virtual ~QuerySource();
 
-  /// Runs a query. `flag` is the last word of the script's line, see LagomareProjectManager::buildScript. The stream is
-  /// never null; it must not outlive the source.
+  /// Runs a query. `flag` is the last word of the script's line, see LagomareProjectManager::buildScript. The caller
+  /// owns the stream, which is never null, and destroys it before the source.
   [[nodiscard]] virtual std::unique_ptr<std::istream> ask(const std::string& sql, bool flag) = 0;
 
 protected:
