@@ -3,8 +3,8 @@
 #include "model/TeluUtmDegreeConversion.h"
 #include "tools/cli/Outputs.h"
 #include "tools/cli/Summary.h"
-#include "tools/system/Failure.h"
 #include "tools/project/ImportRun.h"
+#include "tools/system/Failure.h"
 
 #include <cstdio>
 #include <unistd.h>

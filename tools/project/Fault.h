@@ -7,8 +7,8 @@
 
 namespace LagomareTools {
 
-/// error: the import fails or is refused. warning: it succeeds, but something is not taken or stands elsewhere than it is
-/// meant. note: comes in as it stands, and looks wrong.
+/// error: the import fails or is refused. warning: it succeeds, but something is not taken or stands elsewhere than it
+/// is meant. note: comes in as it stands, and looks wrong.
 enum class Severity { error, warning, note };
 
 /// Something wrong with a project. What does not apply is empty. Texts are UTF-8 with plain blanks.

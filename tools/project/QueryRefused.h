@@ -4,8 +4,8 @@
 
 namespace LagomareTools {
 
-/// The query executable refused one query; the text is its reason. The next query can be asked all the same. Every other
-/// Failure of a source means that it answers no more.
+/// The query executable refused one query; the text is its reason. The next query can be asked all the same. Every
+/// other Failure of a source means that it answers no more.
 class QueryRefused : public Failure {
 public:
   using Failure::Failure;
