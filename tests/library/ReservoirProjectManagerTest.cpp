@@ -3,6 +3,8 @@
 #include "model/PriorityReservoirSettings.h"
 #include "model/Reservoir.h"
 
+#include <algorithm>
+
 using namespace testing;
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "tests/query/QueryTest.h"
 #include "tools/query/QueryError.h"
+#include <algorithm>
 #include <csignal>
 #include <sys/stat.h>
 #include <sys/wait.h>
