@@ -70,7 +70,7 @@ Database openDatabase(const std::string& path) {
 
 void requireUnchanged(const Database& database) {
   if (database.stamp && !(FileStamp::of(database.file) == *database.stamp))
-    throw QueryError("the database was changed while it was read; close it in the other program, then try again");
+    throw DatabaseChanged("the database was changed while it was read; close it in the other program, then try again");
 }
 
 void prepareForQueries(sqlite3* connection) {

@@ -11,14 +11,15 @@ struct Database {
   std::shared_ptr<const void> foundation; ///< what the connection stands on, if anything; goes after it
   Connection connection;
   std::filesystem::path file;
-  /// Of `file`, from before its first byte was read; where SQLite locks it or it is a copy, none.
+  /// Of `file`: from before its first byte was read or, where SQLite locks it, from then on; none where a copy is read.
   std::optional<FileStamp> stamp;
 };
 
-/// Opens a SQLite or an Access file, told apart by their first bytes. Throws QueryError.
+/// Opens a SQLite or an Access file, told apart by their first bytes. Throws QueryError. A SQLite file is seen in one
+/// state, that of one read transaction, for as long as the connection lives.
 [[nodiscard]] Database openDatabase(const std::string& path);
 
-/// Throws QueryError where a file that nothing locks was changed since it was opened.
+/// Throws DatabaseChanged where the file was changed or replaced since it was opened.
 void requireUnchanged(const Database& database);
 
 /// What SQL may rely on, whatever the kind: FORMAT, and double quotes that never mean a text.

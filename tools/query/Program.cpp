@@ -1,12 +1,14 @@
 #include "tools/query/Program.h"
 
-#include "tools/query/Database.h"
-#include "tools/query/Field.h"
+#include "tools/query/Query.h"
 #include "tools/query/QueryError.h"
-#include "tools/query/sqlite/StoredOrder.h"
+#include "tools/query/Session.h"
+#include "tools/query/answer/AnswerFile.h"
+#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <new>
+#include <optional>
 
 namespace LagomareQuery {
 
@@ -15,6 +17,7 @@ namespace {
 constexpr const char* answerName = "query-result.txt";
 constexpr const char* usage =
     "usage: lagomare-query DATABASE SQL FLAG\n"
+    "       lagomare-query --session DATABASE\n"
     "\n"
     "Answers one SELECT from a SQLite or Access database, which it only reads. The answer goes to query-result.txt\n"
     "in the working directory: a line per row, each field followed by a blank, then a dot.\n"
@@ -23,6 +26,7 @@ constexpr const char* usage =
     "  SQL        one statement that selects, in SQLite's SQL; FORMAT(date, 'dd/mm/yyyy') is there\n"
     "  FLAG       0 or 1; changes nothing\n"
     "\n"
+    "  --session  answers each line of standard input, FLAG SQL, on standard output; see the manual page\n"
     "  --help, --version\n"
     "\n"
     "example: lagomare-query project.mdb 'select NumPto, Valor from LgmVazNat' 0\n";
@@ -39,17 +43,6 @@ Call parseCall(const std::vector<std::string>& words) {
   if (words[2] != "0" && words[2] != "1")
     throw QueryError("the flag must be 0 or 1, not '" + words[2] + "'");
   return {words[0], words[1]};
-}
-
-void answer(const Call& call, AnswerFile& file) {
-  const Database database = openDatabase(call.database);
-  const Statement rows = prepareInStoredOrder(database.connection.get(), call.sql);
-  const int columns = sqlite3_column_count(rows.get());
-  FieldWriter writer(file);
-  while (step(rows.get()))
-    writer.writeRow(rows.get(), columns);
-  requireUnchanged(database);
-  file.commit();
 }
 
 /// Writing the answer over the project would be the end of it.
@@ -73,21 +66,20 @@ int failure(const std::string& reason) {
   return EXIT_FAILURE;
 }
 
-} // namespace
+int printHelp(const char* help) {
+  std::cout << help << std::flush;
+  return std::cout ? EXIT_SUCCESS : failure("standard output cannot be written");
+}
 
-int runProgram(const std::vector<std::string>& words) {
-  if (const char* help = helpFor(words)) {
-    std::cout << help << std::flush;
-    if (std::cout)
-      return EXIT_SUCCESS;
-    return failure("standard output cannot be written");
-  }
+int answerInFile(const std::vector<std::string>& words) {
   std::optional<AnswerFile> file;
   std::string reason;
   try {
     requireOtherFile(words);
     file.emplace(answerName);
-    answer(parseCall(words), *file);
+    const Call call = parseCall(words);
+    writeRows(openDatabase(call.database), call.sql, *file);
+    file->commit();
     return EXIT_SUCCESS;
   } catch (const std::bad_alloc&) {
     reason = "out of memory";
@@ -97,6 +89,29 @@ int runProgram(const std::vector<std::string>& words) {
   if (file)
     file->fail(reason);
   return failure(reason);
+}
+
+int answerInSession(const std::string& database) {
+  try {
+    AnswerStream answers(stdout);
+    return runSession(database, std::cin, answers) ? EXIT_SUCCESS : EXIT_FAILURE;
+  } catch (const StreamError& error) {
+    return error.isReaderGone() ? EXIT_FAILURE : failure(error.what());
+  } catch (const std::bad_alloc&) {
+    return failure("out of memory");
+  } catch (const std::exception& error) {
+    return failure(error.what());
+  }
+}
+
+} // namespace
+
+int runProgram(const std::vector<std::string>& words) {
+  if (const char* help = helpFor(words))
+    return printHelp(help);
+  if (words.size() == 2 && words[0] == "--session")
+    return answerInSession(words[1]);
+  return answerInFile(words);
 }
 
 } // namespace LagomareQuery

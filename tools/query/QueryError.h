@@ -10,4 +10,10 @@ public:
   using std::runtime_error::runtime_error;
 };
 
+/// The database is no longer what was opened: nothing more can be answered from it.
+class DatabaseChanged : public QueryError {
+public:
+  using QueryError::QueryError;
+};
+
 } // namespace LagomareQuery

@@ -2,6 +2,7 @@
 
 #include "tools/query/access/AccessScan.h"
 #include <algorithm>
+#include <sqlite3.h>
 
 namespace LagomareQuery {
 
@@ -9,6 +10,7 @@ namespace {
 
 constexpr std::uint32_t catalogPage = 2;
 constexpr std::uint32_t pageMask = 0x00FFFFFF; // of an object's id
+constexpr std::uint32_t systemFlags = 0x80000002;
 enum : std::uint16_t { tableObject = 1, linkedByDriverObject = 4, linkedObject = 6 };
 
 const AccessColumn& column(const AccessTable& table, const char* name, AccessType type) {
@@ -20,6 +22,18 @@ const AccessColumn& column(const AccessTable& table, const char* name, AccessTyp
   return *found;
 }
 
+void requireDifferentNames(const std::vector<AccessObject>& objects) {
+  std::vector<std::string> names;
+  for (const AccessObject& object : objects)
+    names.push_back(object.name);
+  const auto compare = [](const auto& left, const auto& right) { return sqlite3_stricmp(left.c_str(), right.c_str()); };
+  std::sort(names.begin(), names.end(), [&](const auto& left, const auto& right) { return compare(left, right) < 0; });
+  const auto twin = std::adjacent_find(names.begin(), names.end(),
+                                       [&](const auto& left, const auto& right) { return compare(left, right) == 0; });
+  if (twin != names.end())
+    throwDamaged("two tables of the name " + *twin);
+}
+
 } // namespace
 
 std::vector<AccessObject> readCatalog(const AccessFile& file) {
@@ -27,18 +41,22 @@ std::vector<AccessObject> readCatalog(const AccessFile& file) {
   const AccessColumn& id = column(catalog, "Id", AccessType::integer32);
   const AccessColumn& type = column(catalog, "Type", AccessType::integer16);
   const AccessColumn& name = column(catalog, "Name", AccessType::text);
+  const AccessColumn& flags = column(catalog, "Flags", AccessType::integer32);
   std::vector<AccessObject> objects;
-  for (AccessScan scan(file, catalog); scan.next();) {
+  const std::vector<std::uint32_t> pages = readDataPages(file, catalog);
+  for (AccessScan scan(file, catalog, pages); scan.next();) {
     const AccessRecord& record = scan.record();
     if (record.isNull(id) || record.isNull(type) || record.isNull(name))
       continue;
     const std::uint16_t kind = record.cell(type).u16(0);
     if (kind != tableObject && kind != linkedByDriverObject && kind != linkedObject)
       continue;
-    AccessObject object{{}, kind != tableObject, record.cell(id).u32(0) & pageMask};
+    const bool system = !record.isNull(flags) && (record.cell(flags).u32(0) & systemFlags) != 0;
+    AccessObject object{{}, kind != tableObject, system, record.cell(id).u32(0) & pageMask};
     file.appendText(record.cell(name), object.name);
     objects.push_back(std::move(object));
   }
+  requireDifferentNames(objects);
   return objects;
 }
 

@@ -9,10 +9,11 @@ namespace LagomareQuery {
 struct AccessObject {
   std::string name;
   bool linked; ///< a table that stands in another database
+  bool system; ///< one of Access's own tables
   std::uint32_t definitionPage;
 };
 
-/// Throws QueryError.
+/// The tables in the catalogue, no two of one name. Throws QueryError.
 [[nodiscard]] std::vector<AccessObject> readCatalog(const AccessFile& file);
 
 } // namespace LagomareQuery

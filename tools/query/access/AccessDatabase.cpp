@@ -8,9 +8,11 @@ Database openAccessDatabase(const std::filesystem::path& file) {
   const FileStamp stamp = FileStamp::of(file);
   const auto pages = std::make_shared<AccessFile>(file);
   Connection connection = openConnection(":memory:", SQLITE_OPEN_READWRITE);
-  prepareForQueries(connection.get());
-  for (const AccessObject& object : readCatalog(*pages))
+  const std::vector<AccessObject> objects = readCatalog(*pages);
+  for (const AccessObject& object : objects)
     registerAccessTable(connection.get(), *pages, object);
+  listTables(connection.get(), objects);
+  prepareForQueries(connection.get());
   return {pages, std::move(connection), file, stamp};
 }
 

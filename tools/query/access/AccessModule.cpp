@@ -6,6 +6,7 @@
 #include "tools/query/sqlite/Sqlite.h"
 #include <memory>
 #include <new>
+#include <optional>
 
 namespace LagomareQuery {
 
@@ -21,10 +22,11 @@ struct Table : sqlite3_vtab {
       : sqlite3_vtab{}, file(accessFile), table(std::move(accessTable)) {}
   const AccessFile& file;
   const AccessTable table;
+  std::optional<std::vector<std::uint32_t>> pages; ///< read when the first cursor is opened
 };
 
 struct Cursor : sqlite3_vtab_cursor {
-  explicit Cursor(const Table& table) : sqlite3_vtab_cursor{}, scan(table.file, table.table) {}
+  explicit Cursor(const Table& table) : sqlite3_vtab_cursor{}, scan(table.file, table.table, *table.pages) {}
   AccessScan scan;
   bool atEnd = false;
   sqlite3_int64 row = 0;
@@ -78,7 +80,12 @@ int planScan(sqlite3_vtab* table, sqlite3_index_info* plan) {
 }
 
 int open(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor) {
-  return guarded(&table->zErrMsg, [&] { *cursor = new Cursor(*static_cast<Table*>(table)); });
+  return guarded(&table->zErrMsg, [&] {
+    auto& opened = *static_cast<Table*>(table);
+    if (!opened.pages)
+      opened.pages = readDataPages(opened.file, opened.table);
+    *cursor = new Cursor(opened);
+  });
 }
 
 int close(sqlite3_vtab_cursor* cursor) {
@@ -133,6 +140,21 @@ sqlite3_module makeModule() {
 }
 
 } // namespace
+
+void listTables(sqlite3* connection, const std::vector<AccessObject>& objects) {
+  execute(connection, "PRAGMA writable_schema = ON");
+  const Statement insert =
+      prepare(connection, "INSERT INTO sqlite_master(type, name, tbl_name, rootpage, sql) "
+                          "VALUES('table', ?1, ?1, 0, printf('CREATE VIRTUAL TABLE \"%w\" USING \"%w\"', ?1, ?1))");
+  for (const AccessObject& object : objects) {
+    if (object.linked || object.system)
+      continue;
+    sqlite3_bind_text(insert.get(), 1, object.name.data(), static_cast<int>(object.name.size()), SQLITE_STATIC);
+    static_cast<void>(step(insert.get()));
+    sqlite3_reset(insert.get());
+  }
+  execute(connection, "PRAGMA writable_schema = RESET"); // reads the schema anew
+}
 
 void registerAccessTable(sqlite3* connection, const AccessFile& file, const AccessObject& object) {
   static const sqlite3_module module = makeModule();

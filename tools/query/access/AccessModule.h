@@ -9,4 +9,7 @@ namespace LagomareQuery {
 /// names it. `file` must outlive the connection.
 void registerAccessTable(sqlite3* connection, const AccessFile& file, const AccessObject& object);
 
+/// Makes the tables that people have put into the database stand in sqlite_master. They must be registered.
+void listTables(sqlite3* connection, const std::vector<AccessObject>& objects);
+
 } // namespace LagomareQuery

@@ -8,9 +8,9 @@ bool AccessScan::next() {
   const AccessFormat& format = file_.format();
   while (true) {
     if (nextSlot_ == slotCount_) {
-      if (nextPage_ == table_.dataPages.size())
+      if (nextPage_ == pages_.size())
         return false;
-      file_.read(table_.dataPages[nextPage_++], page_);
+      file_.read(pages_[nextPage_++], page_);
       nextSlot_ = 0;
       slotCount_ = rowCount(page_, format);
       continue;

@@ -36,28 +36,6 @@ std::size_t liveRows(const AccessPage& page, const AccessFormat& format) {
   return live;
 }
 
-/// The usage map marks a few pages that are no longer the table's; whether those that are left are all of them, the
-/// number of rows tells.
-std::vector<std::uint32_t> dataPages(const AccessFile& file, AccessTable& table, std::uint32_t definitionPage,
-                                     AccessRowId usageMap) {
-  std::vector<std::uint32_t> own;
-  std::size_t rows = 0;
-  const std::vector<std::uint32_t> marked = pagesOf(file, usageMap);
-  AccessPage page;
-  for (const std::uint32_t pageNumber : marked) {
-    file.read(pageNumber, page);
-    if (!page.is(AccessPage::Kind::data) || page.bytes().u32(ownerOffset) != definitionPage)
-      continue;
-    own.push_back(pageNumber);
-    rows += liveRows(page, file.format());
-  }
-  const bool unknown = table.rowCount == 0 && own.size() == marked.size();
-  if (rows != table.rowCount && !unknown)
-    throwDamaged("table " + table.name + " has " + std::to_string(rows) + " rows where " +
-                 std::to_string(table.rowCount) + " should be");
-  return own;
-}
-
 } // namespace
 
 AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t definitionPage) {
@@ -69,8 +47,30 @@ AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t de
   table.rowCount = definition.u32(format.rowCount);
   table.hasVariableColumns = definition.u16(format.variableColumnCount) != 0;
   table.columns = readColumns(file, table.name, definition);
-  table.dataPages = dataPages(file, table, definitionPage, AccessRowId::stored(definition.u32(format.usageMap)));
+  table.definitionPage = definitionPage;
+  table.usageMap = AccessRowId::stored(definition.u32(format.usageMap));
   return table;
+}
+
+/// The usage map marks a few pages that are no longer the table's; whether those that are left are all of them, the
+/// number of rows tells.
+std::vector<std::uint32_t> readDataPages(const AccessFile& file, const AccessTable& table) {
+  std::vector<std::uint32_t> own;
+  std::size_t rows = 0;
+  const std::vector<std::uint32_t> marked = pagesOf(file, table.usageMap);
+  AccessPage page;
+  for (const std::uint32_t pageNumber : marked) {
+    file.read(pageNumber, page);
+    if (!page.is(AccessPage::Kind::data) || page.bytes().u32(ownerOffset) != table.definitionPage)
+      continue;
+    own.push_back(pageNumber);
+    rows += liveRows(page, file.format());
+  }
+  const bool unknown = table.rowCount == 0 && own.size() == marked.size();
+  if (rows != table.rowCount && !unknown)
+    throwDamaged("table " + table.name + " has " + std::to_string(rows) + " rows where " +
+                 std::to_string(table.rowCount) + " should be");
+  return own;
 }
 
 } // namespace LagomareQuery

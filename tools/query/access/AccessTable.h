@@ -1,20 +1,25 @@
 #pragma once
 
 #include "tools/query/access/AccessColumn.h"
+#include "tools/query/access/AccessRow.h"
 
 namespace LagomareQuery {
 
-/// A table's definition, read from the pages that hold it and checked against the pages that hold its rows.
+/// A table's definition.
 struct AccessTable {
   std::string name;
   std::uint32_t rowCount = 0; ///< 0: unknown, the database was not closed properly
   bool hasVariableColumns = false;
-  std::vector<AccessColumn> columns;    ///< in the order of `select *`
-  std::vector<std::uint32_t> dataPages; ///< in stored order
+  std::vector<AccessColumn> columns; ///< in the order of `select *`
+  std::uint32_t definitionPage = 0;
+  AccessRowId usageMap; ///< says which pages hold the table's rows
 };
 
-/// Reads the definition that begins on that page. Throws QueryError, also where the pages hold other rows than the
-/// definition says, so that no row is missed without a word.
+/// Reads the definition that begins on that page. Throws QueryError.
 [[nodiscard]] AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t definitionPage);
+
+/// The pages that hold the table's rows, in stored order. Throws QueryError where they hold other rows than the
+/// definition says, so that no row is missed without a word.
+[[nodiscard]] std::vector<std::uint32_t> readDataPages(const AccessFile& file, const AccessTable& table);
 
 } // namespace LagomareQuery

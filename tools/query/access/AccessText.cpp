@@ -1,6 +1,6 @@
 #include "tools/query/access/AccessText.h"
 
-#include "tools/query/Utf8.h"
+#include "tools/query/answer/Utf8.h"
 
 namespace LagomareQuery {
 

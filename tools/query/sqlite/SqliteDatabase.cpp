@@ -27,12 +27,11 @@ std::string uriOf(const fs::path& file, const char* parameters) {
   return uri + "?" + parameters;
 }
 
-/// SQLite opens the file itself only when it reads it for the first time; the lock holds until endReading().
+/// SQLite opens the file itself only when it reads it for the first time. The transaction stays open, and with it the
+/// lock, until the connection is closed.
 int readForTheFirstTime(sqlite3* connection) {
   return sqlite3_exec(connection, "BEGIN; SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
 }
-
-void endReading(sqlite3* connection) { execute(connection, "COMMIT"); }
 
 /// SQLite takes zeros for what a cut file lacks of its last page; that whole pages are missing it notices itself.
 void requireWholePages(sqlite3* connection, std::uintmax_t fileSize) {
@@ -60,14 +59,14 @@ Database openCopy(const fs::path& file) {
     throwSqliteError(connection.get());
   // Rolling back a hot journal takes away a page that was being added, but it also fills up a cut file.
   requireWholePages(connection.get(), std::min(sizeBefore, FileStamp::of(copy->database()).size));
-  endReading(connection.get());
   copy->removeFiles();
   return {copy, std::move(connection), file, std::nullopt};
 }
 
 bool holdsBytes(const fs::path& file, const char* suffix) { return FileStamp::of(fs::path(file) += suffix).size > 0; }
 
-Database openInPlace(const fs::path& file, const char* parameters, std::optional<FileStamp> stamp) {
+/// `stampBefore` is that of a file which SQLite does not lock, from before it is opened.
+Database openInPlace(const fs::path& file, const char* parameters, std::optional<FileStamp> stampBefore) {
   Connection connection = openConnection(uriOf(file, parameters), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   prepareForQueries(connection.get());
   const int result = readForTheFirstTime(connection.get());
@@ -76,8 +75,7 @@ Database openInPlace(const fs::path& file, const char* parameters, std::optional
   if (result != SQLITE_OK)
     throwSqliteError(connection.get());
   requireWholePages(connection.get(), FileStamp::of(file).size);
-  endReading(connection.get());
-  return {nullptr, std::move(connection), file, stamp};
+  return {nullptr, std::move(connection), file, stampBefore.value_or(FileStamp::of(file))};
 }
 
 } // namespace

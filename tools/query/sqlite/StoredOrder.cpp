@@ -120,18 +120,24 @@ bool mentionsRowid(const std::string& sql) {
 
 } // namespace
 
-Statement prepareInStoredOrder(sqlite3* connection, const std::string& sql) {
-  Statement direct = prepareSelect(connection, sql, TableAccess::direct);
+void StoredOrderQuery::DropShadows::operator()(sqlite3* connection) const {
+  sqlite3_exec(connection, "ROLLBACK TO shadows; RELEASE shadows", nullptr, nullptr, nullptr);
+}
+
+StoredOrderQuery::StoredOrderQuery(sqlite3* connection, const std::string& sql)
+    : statement_(prepareSelect(connection, sql, TableAccess::direct)) {
   if (readsByRowid(connection, sql))
-    return direct;
-  direct.reset();
+    return;
+  statement_.reset();
   // A view has no rowid of its own. As a column it would show up among those that * stands for.
   const Rowid rowid = mentionsRowid(sql) ? Rowid::asColumn : Rowid::hidden;
   if (rowid == Rowid::asColumn && contains(sql, "*"))
     throw QueryError("rowid and * cannot be used together where an index would be; name the columns");
+  execute(connection, "SAVEPOINT shadows");
+  shadows_.reset(connection);
   shadowTables(connection, rowid);
   shadowViews(connection);
-  return prepareSelect(connection, sql, TableAccess::shadowsOnly);
+  statement_ = prepareSelect(connection, sql, TableAccess::shadowsOnly);
 }
 
 } // namespace LagomareQuery

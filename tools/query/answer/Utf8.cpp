@@ -1,4 +1,4 @@
-#include "tools/query/Utf8.h"
+#include "tools/query/answer/Utf8.h"
 
 namespace LagomareQuery {
 

@@ -1,27 +1,9 @@
 #pragma once
 
-#include "tools/query/AnswerFile.h"
+#include <cstddef>
 #include <cstdint>
-#include <sqlite3.h>
-#include <string_view>
 
 namespace LagomareQuery {
-
-/// Writes rows as the reader takes them: each field followed by one blank, then a field that the reader discards.
-/// This is the only place that turns a value into a field.
-class FieldWriter {
-public:
-  explicit FieldWriter(AnswerFile& answer) : answer_(answer) {}
-
-  /// The current row of a statement that has just been stepped to it.
-  void writeRow(sqlite3_stmt* row, int columns);
-
-private:
-  void writeText(std::string_view text);
-  void writeHexadecimal(std::string_view bytes);
-
-  AnswerFile& answer_;
-};
 
 /// Longest text of a number, in bytes: a sign, "0.", 307 zeros and 17 digits.
 inline constexpr std::size_t numberRoom = 328;

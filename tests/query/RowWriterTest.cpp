@@ -1,5 +1,5 @@
-#include "tools/query/Field.h"
 #include "tests/query/QueryTest.h"
+#include "tools/query/answer/NumberText.h"
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -11,9 +11,9 @@
 namespace LagomareQuery {
 namespace {
 
-using FieldTest = QueryTest;
+using RowWriterTest = QueryTest;
 
-TEST_F(FieldTest, NumbersAreWrittenAsTheReaderTakesThem) {
+TEST_F(RowWriterTest, NumbersAreWrittenAsTheReaderTakesThem) {
   runSql("numbers.db", "CREATE TABLE t(v)");
   const std::pair<const char*, const char*> cases[] = {
       {"-9223372036854775808", "-9223372036854775808"},
@@ -38,7 +38,7 @@ TEST_F(FieldTest, NumbersAreWrittenAsTheReaderTakesThem) {
     EXPECT_EQ(answer("numbers.db", std::string("SELECT 1, ") + literal), std::string("1 ") + field + " .\n");
 }
 
-TEST_F(FieldTest, TextStaysOneField) {
+TEST_F(RowWriterTest, TextStaysOneField) {
   runSql("texts.db", "CREATE TABLE t(v)");
   EXPECT_EQ(answer("texts.db", "SELECT 7, 'Açude Velho', '', x'00FFa0', char(9,10,13,31,127,133,160) || '日本 €😀'"),
             "7 Açude\u00A0Velho  00FFA0 \u00A0\u00A0\u00A0\u00A0\u00A0\u00A0\u00A0日本\u00A0€😀 .\n");
@@ -47,7 +47,7 @@ TEST_F(FieldTest, TextStaysOneField) {
             "a\uFFFDb\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD .\n");
 }
 
-TEST_F(FieldTest, LongValuesAndManyRowsComeWhole) {
+TEST_F(RowWriterTest, LongValuesAndManyRowsComeWhole) {
   runSql("long.db", "CREATE TABLE t(id INTEGER, text TEXT, bytes BLOB);"
                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 6)"
                     "INSERT INTO t SELECT i, replace(hex(zeroblob(i * 12000)), '0', 'é '), zeroblob(i * 40000) FROM n");
@@ -61,7 +61,7 @@ TEST_F(FieldTest, LongValuesAndManyRowsComeWhole) {
   EXPECT_TRUE(answer("long.db", "SELECT * FROM t") == expected);
 }
 
-TEST_F(FieldTest, TheLongestNumbersFit) {
+TEST_F(RowWriterTest, TheLongestNumbersFit) {
   runSql("long.db", "CREATE TABLE t(v)");
   const std::string small = "-0." + std::string(307, '0') + "22250738585072014";
   char largest[numberRoom] = {};
@@ -75,7 +75,7 @@ TEST_F(FieldTest, TheLongestNumbersFit) {
   EXPECT_TRUE(answer("long.db", sql) == expected + " .\n");
 }
 
-TEST_F(FieldTest, EveryDoubleReadsBackFromATextAsShortAsAny) {
+TEST_F(RowWriterTest, EveryDoubleReadsBackFromATextAsShortAsAny) {
   std::mt19937_64 random(1);
   for (int i = 0; i < 300000; ++i) {
     double value = static_cast<double>(static_cast<std::int64_t>(random()) >> (random() % 64)) / std::pow(10, i % 7);

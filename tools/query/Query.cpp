@@ -1,0 +1,32 @@
+#include "tools/query/Query.h"
+
+#include "tools/query/QueryError.h"
+#include "tools/query/answer/RowWriter.h"
+#include "tools/query/sqlite/StoredOrder.h"
+
+namespace LagomareQuery {
+
+namespace {
+
+void runQuery(sqlite3* connection, const std::string& sql, AnswerSink& sink) {
+  const StoredOrderQuery query(connection, sql);
+  const int columns = sqlite3_column_count(query.statement());
+  RowWriter writer(sink);
+  while (step(query.statement()))
+    writer.writeRow(query.statement(), columns);
+  writer.flush();
+}
+
+} // namespace
+
+void writeRows(const Database& database, const std::string& sql, AnswerSink& sink) {
+  try {
+    runQuery(database.connection.get(), sql, sink);
+  } catch (const QueryError&) {
+    requireUnchanged(database); // what looks like damage may be a file that another program is writing
+    throw;
+  }
+  requireUnchanged(database);
+}
+
+} // namespace LagomareQuery

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "tools/query/answer/AnswerSink.h"
+#include <cstddef>
+#include <vector>
+
+namespace LagomareQuery {
+
+/// Gathers an answer's bytes into blocks for its sink. What is not flushed is lost.
+class AnswerBuffer {
+public:
+  /// `sink` must outlive the buffer.
+  explicit AnswerBuffer(AnswerSink& sink) : sink_(sink) {}
+
+  /// Returns a buffer of at least `bytes` bytes, which must not be more than `largestRoom`. After writing to it, call
+  /// taken() with the end of the data.
+  [[nodiscard]] char* room([[maybe_unused]] std::size_t bytes) {
+    if (used_ >= blockSize)
+      flush();
+    return buffer_.data() + used_;
+  }
+  void taken(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
+  static constexpr std::size_t largestRoom = std::size_t{128} * 1024;
+
+  void flush() {
+    sink_.write({buffer_.data(), used_});
+    used_ = 0;
+  }
+
+private:
+  /// Half of what a pipe usually holds: one half is written while the other is read.
+  static constexpr std::size_t blockSize = std::size_t{32} * 1024;
+
+  AnswerSink& sink_;
+  std::vector<char> buffer_ = std::vector<char>(blockSize + largestRoom);
+  std::size_t used_ = 0;
+};
+
+} // namespace LagomareQuery

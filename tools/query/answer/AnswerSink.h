@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace LagomareQuery {
+
+/// Where the bytes of an answer go: a file or a stream.
+class AnswerSink {
+public:
+  virtual ~AnswerSink() = default;
+  virtual void write(std::string_view bytes) = 0;
+
+protected:
+  AnswerSink() = default;
+  AnswerSink(const AnswerSink&) = default;
+  AnswerSink& operator=(const AnswerSink&) = default;
+};
+
+/// The text with a blank for each line break and other control character, such as file names may hold.
+[[nodiscard]] std::string inOneLine(std::string_view text);
+
+} // namespace LagomareQuery
