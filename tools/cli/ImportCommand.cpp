@@ -2,6 +2,7 @@
 
 #include "model/TeluUtmDegreeConversion.h"
 #include "tools/cli/Outputs.h"
+#include "tools/cli/Progress.h"
 #include "tools/cli/Summary.h"
 #include "tools/project/ImportRun.h"
 #include "tools/system/Failure.h"
@@ -22,9 +23,9 @@ int cancelled() {
   return Interruption::exitCode;
 }
 
-void printSummary(const Imported& imported, const ImportOptions& options) {
+void printSummary(const ExportInput& input) {
   FileWriter out(STDOUT_FILENO, "standard output");
-  out.write(summaryOf(imported, options.utmZone));
+  out.write(summaryOf(input));
   out.flush();
 }
 
@@ -42,21 +43,25 @@ int exitCodeOf(const Imported& imported, const std::string& project) {
 
 } // namespace
 
-int importProject(const ImportOptions& options) {
+int importProject(const ImportOptions& options, const std::string& calledAs) {
   Interruption interruption;
-  const Inputs inputs = findInputs(options);
+  const Inputs inputs = findInputs(options.project, calledAs);
   Outputs outputs(options, inputs);
-  if (options.utmZone)
-    TeluUtmDegreeConversion::setZone(options.utmZone->number, options.utmZone->hemisphere);
-  const auto imported = runImport(options, inputs, interruption);
+  const UtmZone zone = options.project.utmZone.value_or(usualZone);
+  TeluUtmDegreeConversion::setZone(zone.number, zone.hemisphere);
+  auto imported = [&] {
+    Progress progress(!options.isQuiet);
+    return runImport(options.project, inputs, interruption, [&](long done, long inAll) { progress.show(done, inAll); });
+  }();
   if (!imported || !interruption.endImport())
     return cancelled();
-  outputs.write(*imported);
+  const ExportInput input{*imported, options.project.project, zone, !options.project.utmZone, options.csvFormat, {}};
+  outputs.write(input);
   if (!options.isQuiet && !outputs.takeStandardOutput())
-    printSummary(*imported, options);
+    printSummary(input);
   interruption.endAll();
   outputs.commit();
-  return exitCodeOf(*imported, options.project);
+  return exitCodeOf(*imported, options.project.project);
 }
 
 } // namespace LagomareTools

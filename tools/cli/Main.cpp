@@ -25,10 +25,18 @@ void occupyStandardStreams() {
 
 int runCommand(int argumentCount, char** arguments) {
   try {
-    const auto options = parseOptions(argumentCount, arguments);
-    return options ? importProject(*options) : success;
+    const Options options = parseOptions(argumentCount, arguments);
+    if (const auto* const help = std::get_if<HelpText>(&options)) {
+      FileWriter out(STDOUT_FILENO, "standard output");
+      out.write(help->text);
+      out.flush();
+      return success;
+    }
+    if (const auto* const import = std::get_if<ImportOptions>(&options))
+      return importProject(*import, arguments[0]);
+    throw Failure("lagomare check is not there yet");
   } catch (const UsageError& error) {
-    printError(std::string(error.what()) + " (lagomare import --help tells the words)");
+    printError(std::string(error.what()) + " (see lagomare import --help)");
     return wrongCall;
   } catch (const std::bad_alloc&) {
     printError("there is not enough memory");

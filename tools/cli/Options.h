@@ -1,35 +1,50 @@
 #pragma once
 
-#include "model/Hemisphere.h"
-#include "tools/project/Dialect.h"
+#include "tools/cli/OutputKinds.h"
+#include "tools/project/ProjectOptions.h"
 
-#include <optional>
 #include <string>
+#include <variant>
+#include <vector>
 
 namespace LagomareTools {
 
-struct UtmZone {
-  unsigned number; ///< 1 to 60
-  Hemisphere hemisphere;
+/// An output that the call asks for; the name as the user wrote it.
+struct OutputRequest {
+  const OutputKind* kind;
+  std::string name;
 };
 
-/// A zone's number and letter: "23S".
-[[nodiscard]] std::string textOf(const UtmZone& zone);
+[[nodiscard]] inline bool isStandardOutput(const OutputRequest& request) {
+  return request.name == OutputFile::standardOutput;
+}
 
-/// The words of `lagomare import`; paths as they were given.
+/// The call of `lagomare import`.
 struct ImportOptions {
-  std::string program; ///< the name that the program was called by
-  std::string project;
-  std::optional<Dialect> dialect; ///< none: the database is asked
-  std::optional<std::string> queryExecutable;
-  std::optional<UtmZone> utmZone; ///< none: the usual one is assumed
-  std::optional<std::string> json;
-  std::optional<std::string> geojson;
-  std::optional<std::string> csv;
+  ProjectOptions project;
+  std::vector<OutputRequest> outputs; ///< in the order of outputKinds()
+  CsvFormat csvFormat = CsvFormat::rfc4180;
+  bool isChecked = true;
   bool isQuiet = false;
 };
 
-/// Nothing where the call only asked for help or for the version, which were printed. Throws UsageError.
-[[nodiscard]] std::optional<ImportOptions> parseOptions(int argumentCount, char** arguments);
+/// The call of `lagomare check`.
+struct CheckOptions {
+  ProjectOptions project; ///< without a path where only the rules are asked for
+  bool isJson = false;
+  bool showsAll = false;
+  bool isStrict = false;
+  bool showsRules = false;
+};
+
+/// A call that asked only for the text to print: help or version.
+struct HelpText {
+  std::string text;
+};
+
+using Options = std::variant<HelpText, ImportOptions, CheckOptions>;
+
+/// Reads the call. Throws UsageError.
+[[nodiscard]] Options parseOptions(int argumentCount, const char* const* arguments);
 
 } // namespace LagomareTools

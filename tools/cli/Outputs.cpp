@@ -1,9 +1,8 @@
 #include "tools/cli/Outputs.h"
 
-#include "tools/export/CsvExport.h"
-#include "tools/export/GeoJsonExport.h"
-#include "tools/export/JsonExport.h"
 #include "tools/system/Failure.h"
+
+#include <algorithm>
 
 namespace LagomareTools {
 
@@ -24,11 +23,11 @@ bool isOneFile(const fs::path& one, const fs::path& other) {
   return fs::weakly_canonical(one, error) == fs::weakly_canonical(other, error);
 }
 
-std::string tableIn(const std::string& folder, const CsvTable& table) {
-  return (fs::path(folder) / table.fileName).string();
+std::string nameOf(const OutputRequest& request, const OutputPart& part) {
+  return *part.fileName == '\0' ? request.name : (fs::path(request.name) / part.fileName).string();
 }
 
-/// Each file once: writing one over another, or over what is read, would be the end of it.
+/// Each file once: writing one over another, or over what is read, would destroy it.
 void requireDifferentFiles(const ImportOptions& options, const Inputs& inputs) {
   std::vector<NamedFile> files{{"the project", inputs.project}, {"the query executable", inputs.executable}};
   const auto add = [&files](const char* word, const std::string& name) {
@@ -38,23 +37,16 @@ void requireDifferentFiles(const ImportOptions& options, const Inputs& inputs) {
         throw UsageError(std::string(file.word) + " and " + word + " are the same file, " + name);
     files.push_back(std::move(added));
   };
-  if (options.json && options.json != OutputFile::standardOutput)
-    add("--json", *options.json);
-  if (options.geojson && options.geojson != OutputFile::standardOutput)
-    add("--geojson", *options.geojson);
-  if (!options.csv)
-    return;
-  add("--csv", *options.csv);
-  for (const CsvTable& table : csvTables)
-    add("--csv", tableIn(*options.csv, table));
+  for (const OutputRequest& request : options.outputs)
+    for (const OutputPart& part : request.kind->parts)
+      if (!isStandardOutput(request))
+        add(request.kind->option, nameOf(request, part));
 }
 
-bool wantsStandardOutput(const ImportOptions& options) {
-  const bool byJson = options.json == OutputFile::standardOutput;
-  const bool byGeoJson = options.geojson == OutputFile::standardOutput;
-  if (byJson && byGeoJson)
-    throw UsageError("--json and --geojson cannot both go to standard output");
-  return byJson || byGeoJson;
+void requireReady(const std::vector<OutputRequest>& requests) {
+  for (const OutputRequest& request : requests)
+    if (!request.kind->isReady())
+      throw UsageError(std::string(request.kind->option) + " is not there yet");
 }
 
 } // namespace
@@ -74,52 +66,36 @@ OutputFolder::OutputFolder(const std::string& name) {
 }
 
 Outputs::Outputs(const ImportOptions& options, const Inputs& inputs)
-    : takesStandardOutput_(wantsStandardOutput(options)) {
+    : takesStandardOutput_(std::any_of(options.outputs.begin(), options.outputs.end(), isStandardOutput)) {
+  requireReady(options.outputs);
   requireDifferentFiles(options, inputs);
-  if (options.csv) {
-    csvFolder_.emplace(*options.csv);
-    for (const CsvTable& table : csvTables)
-      csv_.emplace_back(tableIn(*options.csv, table));
-  }
-  if (options.geojson)
-    geojson_.emplace(*options.geojson);
-  if (options.json)
-    json_.emplace(*options.json);
+  for (const OutputRequest& request : options.outputs)
+    open(request);
 }
 
-void Outputs::write(const Imported& imported) {
-  if (imported.result.scenario) {
-    const Scenario& scenario = *imported.result.scenario;
-    auto file = csv_.begin();
-    for (const CsvTable& table : csvTables)
-      if (file != csv_.end()) {
-        table.write(file->writer(), scenario);
-        (file++)->finish();
-      }
-    if (geojson_) {
-      writeGeoJson(geojson_->writer(), scenario);
-      geojson_->finish();
+void Outputs::open(const OutputRequest& request) {
+  const auto& parts = request.kind->parts;
+  if (*parts.front().fileName != '\0')
+    folders_.emplace_back(request.name);
+  for (const OutputPart& part : parts)
+    outputs_.emplace_back(*request.kind, part, nameOf(request, part));
+}
+
+void Outputs::write(const ExportInput& input) {
+  for (Output& output : outputs_)
+    if (input.imported.result.scenario || output.kind.tellsFailure) {
+      output.part.write(output.file, input);
+      output.file.finish();
     }
-  }
-  if (json_) {
-    writeJson(json_->writer(), imported);
-    json_->finish();
-  }
 }
 
 void Outputs::commit() {
-  std::vector<OutputFile*> files;
-  for (OutputFile& file : csv_)
-    files.push_back(&file);
-  for (auto* file : {&geojson_, &json_})
-    if (*file)
-      files.push_back(&**file);
   try {
-    for (OutputFile* file : files)
-      file->commit();
+    for (Output& output : outputs_)
+      output.file.commit();
   } catch (...) {
-    for (OutputFile* file : files)
-      file->restore();
+    for (Output& output : outputs_)
+      output.file.restore();
     throw;
   }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/project/Imported.h"
+#include "tools/cli/Options.h"
 #include "tools/project/Inputs.h"
 #include "tools/system/OutputFile.h"
 
@@ -28,17 +28,25 @@ public:
   /// Whether standard output is taken.
   [[nodiscard]] bool takeStandardOutput() const { return takesStandardOutput_; }
 
-  /// Fills the files; without a scenario only the JSON. Throws Failure.
-  void write(const Imported& imported);
+  /// Fills the files; without a scenario only those that tell a failure. Throws Failure.
+  void write(const ExportInput& input);
   /// Puts the filled files into their places: all, or none as far as OutputFile::restore can. Throws Failure.
   void commit();
 
 private:
+  struct Output {
+    Output(const OutputKind& outputKind, const OutputPart& outputPart, const std::string& name)
+        : kind(outputKind), part(outputPart), file(name) {}
+    const OutputKind& kind;
+    const OutputPart& part;
+    OutputFile file;
+  };
+
+  void open(const OutputRequest& request);
+
   bool takesStandardOutput_;
-  std::optional<OutputFolder> csvFolder_; ///< goes after the files
-  std::list<OutputFile> csv_;             ///< one per table
-  std::optional<OutputFile> geojson_;
-  std::optional<OutputFile> json_;
+  std::list<OutputFolder> folders_; ///< go after the files
+  std::list<Output> outputs_;
 };
 
 } // namespace LagomareTools

@@ -11,8 +11,6 @@ namespace LagomareTools {
 
 namespace {
 
-constexpr const char* usualZone = "23S";
-
 std::string line(const char* label, const std::string& text) { return fmt::format("  {:<22}{}\n", label, text); }
 
 std::string periodOf(const Interval& interval) {
@@ -57,14 +55,16 @@ std::string countsOf(const Network& network) {
 
 } // namespace
 
-std::string summaryOf(const Imported& imported, const std::optional<UtmZone>& zone) {
+std::string summaryOf(const ExportInput& input) {
+  const Imported& imported = input.imported;
   std::string summary = plainText(imported.result.message) + '\n';
   summary += line("dialect",
                   std::string(nameOf(imported.dialect)) + (imported.isDialectFound ? " (found by its tables)" : ""));
   if (!imported.result.scenario)
     return summary;
   const Scenario& scenario = *imported.result.scenario;
-  summary += line("UTM zone", zone ? textOf(*zone) : std::string(usualZone) + " (assumed; --utm-zone sets another)");
+  summary +=
+      line("UTM zone", textOf(input.utmZone) + (input.isZoneAssumed ? " (assumed; --utm-zone sets another)" : ""));
   summary += line("scenario", oneLine(scenario.getName()));
   summary += line("period", periodOf(scenario.getInterval()));
   summary += line("hydrological states", textOf(statesOf(scenario)));

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "tools/cli/Options.h"
-#include "tools/project/Imported.h"
+#include "tools/export/ExportInput.h"
 
 namespace LagomareTools {
 
-/// What was imported, for people: several lines; `zone` is none where the usual one was assumed.
-[[nodiscard]] std::string summaryOf(const Imported& imported, const std::optional<UtmZone>& zone);
+/// Returns what was imported, for people: several lines.
+[[nodiscard]] std::string summaryOf(const ExportInput& input);
 
 } // namespace LagomareTools

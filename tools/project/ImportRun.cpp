@@ -3,7 +3,6 @@
 #include "access/LagomareProjectManager.h"
 #include "loader/LagomareProjectLoader.h"
 #include "model/Scenario.h"
-#include "tools/cli/Progress.h"
 #include "tools/project/DialectProbe.h"
 #include "tools/project/ErrorReport.h"
 #include "tools/project/LastQuery.h"
@@ -43,7 +42,7 @@ SceneryProjectManagerRet load(const PlainNames& names, const ImportPlace& place,
   }
 }
 
-Dialect dialectOf(const ImportOptions& options, const Inputs& inputs, const PlainNames& names) {
+Dialect dialectOf(const ProjectOptions& options, const Inputs& inputs, const PlainNames& names) {
   if (options.dialect)
     return *options.dialect;
   const OpenChannel channel(names);
@@ -56,10 +55,9 @@ void requirePeriod(const SceneryProjectManagerRet& result, const ImportPlace& pl
                   settingsTableOf(place.dialect) + ", is 0 years; correct it");
 }
 
-Imported importIn(const PlainNames& names, const ImportOptions& options, const Inputs& inputs,
-                  const Interruption& interruption) {
+Imported importIn(const PlainNames& names, const ProjectOptions& options, const Inputs& inputs,
+                  const Interruption& interruption, const std::function<void(long, long)>& progress) {
   const ImportPlace place{inputs, names.database, dialectOf(options, inputs, names), !options.dialect};
-  Progress progress(!options.isQuiet);
   Imported imported{place.dialect, place.isDialectFound, {importCancelled, nullptr}};
   if (interruption.isRequested())
     return imported;
@@ -67,7 +65,7 @@ Imported importIn(const PlainNames& names, const ImportOptions& options, const I
     requireLaunched();
     if (interruption.isRequested())
       return false;
-    progress.show(stepsDone, stepsInAll);
+    progress(stepsDone, stepsInAll);
     return true;
   });
   requirePeriod(imported.result, place);
@@ -85,13 +83,14 @@ std::vector<std::pair<std::uintmax_t, std::filesystem::file_time_type>> stampOf(
 
 } // namespace
 
-std::optional<Imported> runImport(const ImportOptions& options, const Inputs& inputs, Interruption& interruption) {
+std::optional<Imported> runImport(const ProjectOptions& options, const Inputs& inputs, Interruption& interruption,
+                                  const std::function<void(long, long)>& progress) {
   const PrivateDirectory directory;
   const PlainNames names = installLauncher(inputs.program, inputs.executable, inputs.project);
   interruption.whenRequested([path = directory.path()] { stopQuery(path); });
   const auto stamp = stampOf(inputs.project);
   try {
-    Imported imported = importIn(names, options, inputs, interruption);
+    Imported imported = importIn(names, options, inputs, interruption, progress);
     if (imported.result.status != importCancelled.code) {
       if (stampOf(inputs.project) != stamp)
         throw Failure(inputs.projectName + ": was changed while it was read, so its parts do not fit together; import "

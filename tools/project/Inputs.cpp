@@ -37,12 +37,9 @@ fs::path absolute(const std::string& name) {
 
 } // namespace
 
-Inputs findInputs(const ImportOptions& options) {
-  Inputs inputs{options.project,
-                absolute(options.project),
-                {},
-                options.queryExecutable.has_value(),
-                programPath(options.program)};
+Inputs findInputs(const ProjectOptions& options, const std::string& calledAs) {
+  Inputs inputs{
+      options.project, absolute(options.project), {}, options.queryExecutable.has_value(), programPath(calledAs)};
   const std::string fault = obstacle(inputs.project, R_OK);
   if (!fault.empty())
     throw Failure("cannot read the project " + options.project + ": " + fault);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/cli/Options.h"
+#include "tools/project/ProjectOptions.h"
 
 #include <filesystem>
 
@@ -16,6 +16,6 @@ struct Inputs {
 };
 
 /// Finds and checks them before anything else happens. Throws Failure.
-[[nodiscard]] Inputs findInputs(const ImportOptions& options);
+[[nodiscard]] Inputs findInputs(const ProjectOptions& options, const std::string& calledAs);
 
 } // namespace LagomareTools

@@ -21,6 +21,11 @@ public:
   OutputFile& operator=(const OutputFile&) = delete;
 
   [[nodiscard]] FileWriter& writer() { return *writer_; }
+  /// Where a library that opens files itself can write the content, in place of writer(): an empty file at first. Not
+  /// for standard output.
+  [[nodiscard]] std::filesystem::path path() const {
+    return temporary_.empty() ? place_ : std::filesystem::path(temporary_);
+  }
   /// All is written: puts it on the disk. Throws Failure.
   void finish();
   /// Puts the finished file into its place; nothing where it was not finished. Throws Failure.

@@ -1,0 +1,42 @@
+#include "tools/cli/OutputKinds.h"
+
+#include "tools/export/CsvExport.h"
+#include "tools/export/GeoJsonExport.h"
+#include "tools/export/JsonExport.h"
+
+namespace LagomareTools {
+
+namespace {
+
+void writeJsonFile(OutputFile& file, const ExportInput& input) { writeJson(file.writer(), input.imported); }
+
+void writeGeoJsonFile(OutputFile& file, const ExportInput& input) {
+  writeGeoJson(file.writer(), *input.imported.result.scenario);
+}
+
+template <std::size_t index>
+OutputPart csvPart() {
+  return {csvTables[index].fileName, [](OutputFile& file, const ExportInput& input) {
+            csvTables[index].write(file.writer(), *input.imported.result.scenario);
+          }};
+}
+
+} // namespace
+
+const std::vector<OutputKind>& outputKinds() {
+  static const std::vector<OutputKind> kinds{
+      {"--json", "FILE", "Write the whole scenario; - is standard output", true, true, {{"", writeJsonFile}}},
+      {"--geojson", "FILE", "Write the network for a GIS; - is standard output", true, false, {{"", writeGeoJsonFile}}},
+      {"--gpkg", "FILE", "Write network, series and curves as a GeoPackage", false, false, {{"", nullptr}}},
+      {"--xlsx", "FILE", "Write a workbook", false, false, {{"", nullptr}}},
+      {"--html", "FILE", "Write a report to look at", false, false, {{"", nullptr}}},
+      {"--csv",
+       "DIR",
+       "Write elements.csv, links.csv, series.csv and curves.csv into DIR",
+       false,
+       false,
+       {csvPart<0>(), csvPart<1>(), csvPart<2>(), csvPart<3>()}}};
+  return kinds;
+}
+
+} // namespace LagomareTools

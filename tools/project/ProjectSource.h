@@ -1,0 +1,26 @@
+#pragma once
+
+#include "access/QuerySource.h"
+
+namespace LagomareTools {
+
+/// Answers the queries on one project, through a query executable. Remembers the last query, for error messages.
+///
+/// ask() and the stream that it returns throw QueryRefused if this query was refused with a reason (others can be asked
+/// after it), another Failure if the source answers no more, and Interrupted. The stream is set to pass them on. It
+/// need not be read to its end.
+class ProjectSource : public Lagomare::QuerySource {
+public:
+  [[nodiscard]] std::unique_ptr<std::istream> ask(const std::string& sql, bool flag) final;
+
+  /// The SQL that was asked last; empty before the first query.
+  [[nodiscard]] const std::string& lastSql() const { return lastSql_; }
+
+private:
+  /// Runs a query.
+  [[nodiscard]] virtual std::unique_ptr<std::istream> start(const std::string& sql, bool flag) = 0;
+
+  std::string lastSql_;
+};
+
+} // namespace LagomareTools
