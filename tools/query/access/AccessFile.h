@@ -4,8 +4,7 @@
 #include "tools/query/access/AccessFormat.h"
 #include <array>
 #include <filesystem>
-#include <memory>
-#include <vector>
+#include <fstream>
 
 namespace LagomareQuery {
 
@@ -23,16 +22,11 @@ private:
   std::size_t size_ = 0;
 };
 
-/// An Access file as pages, decoded where the file is encoded. This is all that is left to libmdb, with the text of
-/// code pages: what the pages say is read with bounds by the classes beside this one, for libmdb trusts it. Not for use
-/// by two threads.
+/// An Access file as pages, decoded where the file is encoded. Not for use by two threads.
 class AccessFile {
 public:
   /// Throws QueryError where the file is no Access database that can be read.
   explicit AccessFile(const std::filesystem::path& file);
-  ~AccessFile();
-  AccessFile(const AccessFile&) = delete;
-  AccessFile& operator=(const AccessFile&) = delete;
 
   [[nodiscard]] const AccessFormat& format() const { return *format_; }
 
@@ -46,10 +40,10 @@ public:
   void appendText(AccessBytes stored, std::string& text) const;
 
 private:
-  struct Handle; // libmdb's
-  std::unique_ptr<Handle> handle_;
-  const AccessFormat* format_;
-  std::uint32_t pageCount_;
+  mutable std::ifstream stream_;
+  const AccessFormat* format_ = nullptr;
+  std::uint32_t pageCount_ = 0;
+  std::uint32_t key_ = 0; // of an encoded file: each page's key is this one exclusive-or its number; 0: not encoded
 };
 
 } // namespace LagomareQuery

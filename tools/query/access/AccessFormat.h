@@ -29,7 +29,7 @@ struct AccessFormat {
   std::size_t columnSize;
 
   std::size_t countSize; // of counts in rows and of a column name's length: 1 or 2
-  bool utf16;            // text is UTF-16, else in the database's code page
+  bool utf16;            // text is UTF-16, else in code page 1252
 };
 
 /// Access 97.

@@ -1,6 +1,7 @@
 #include "tools/query/access/AccessText.h"
 
 #include "tools/query/answer/Utf8.h"
+#include <array>
 
 namespace LagomareQuery {
 
@@ -63,6 +64,18 @@ void appendUtf16(AccessBytes stored, std::string& text) {
     return appendCompressed(stored.from(2), appender);
   for (std::size_t i = 0; i + 2 <= stored.size(); i += 2)
     appender.append(stored.u16(i));
+}
+
+void appendWindows1252(AccessBytes stored, std::string& text) {
+  // What 0x80 to 0x9F stand for; the other bytes are the first 256 characters of Unicode.
+  static constexpr std::array<std::uint16_t, 32> special = {
+      0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+      0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+      0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
+  for (std::size_t i = 0; i < stored.size(); ++i) {
+    const std::uint8_t byte = stored.u8(i);
+    appendUtf8(text, byte >= 0x80 && byte <= 0x9F ? special[byte - 0x80U] : byte);
+  }
 }
 
 } // namespace LagomareQuery
