@@ -13,10 +13,9 @@ namespace {
 /// Calls startRun(id, rows to expect) where the id changes, and add(text of the id, the line behind it) for each line.
 /// Ids mostly come in runs of equal length, and a line that begins like the one before has the same id.
 template <typename StartRun, typename Add>
-void forEachRow(std::istream& answer, StartRun startRun, Add add) {
+void forEachRow(LineReader lines, StartRun startRun, Add add) {
   std::string idText; // with the blank behind it
   std::size_t runLength = 0;
-  LineReader lines(answer);
   for (std::string_view line; lines.next(line); ++runLength) {
     if (idText.empty() || line.substr(0, idText.size()) != idText) {
       const std::size_t length = line.find(' ');
@@ -40,12 +39,12 @@ typename Result::iterator entryOf(Result& result, std::uint32_t id, std::size_t 
 
 } // namespace
 
-QueryResult parseRows(std::istream& answer) {
+QueryResult parseRows(std::istream& answer, std::size_t blockSize) {
   QueryResult result;
   auto place = result.end();
   std::size_t expected = 1; // as many fields as the row before: all rows of an answer have the same columns
   const auto startRun = [&](std::uint32_t id, std::size_t rows) { place = entryOf(result, id, rows); };
-  forEachRow(answer, startRun, [&](std::string_view id, std::string_view rest) {
+  forEachRow(LineReader(answer, blockSize), startRun, [&](std::string_view id, std::string_view rest) {
     Row& row = place->second.emplace_back();
     row.reserve(expected);
     row.emplace_back(id);
@@ -58,11 +57,11 @@ QueryResult parseRows(std::istream& answer) {
   return result;
 }
 
-ValueResult parseValues(std::istream& answer) {
+ValueResult parseValues(std::istream& answer, std::size_t blockSize) {
   ValueResult result;
   auto place = result.end();
   const auto startRun = [&](std::uint32_t id, std::size_t rows) { place = entryOf(result, id, rows, id); };
-  forEachRow(answer, startRun, [&](std::string_view /*id*/, std::string_view rest) {
+  forEachRow(LineReader(answer, blockSize), startRun, [&](std::string_view /*id*/, std::string_view rest) {
     if (const std::size_t end = rest.find(' '); end != std::string_view::npos)
       place->second.append(rest.substr(0, end));
     else

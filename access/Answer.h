@@ -1,5 +1,6 @@
 #pragma once
 
+#include "access/LineReader.h"
 #include "access/QueryResult.h"
 #include "access/ValueResult.h"
 #include "lagomare_export.h"
@@ -12,12 +13,14 @@ namespace Lagomare {
 // last field of each line no data. Fields are parted as StringUtils::split of the stand-alone core does it, but in
 // place: two blanks in a row enclose an empty field. Both functions read the stream to where it ends or fails; both
 // throw InvalidField or FieldOutOfRange ("stoul") for a line whose first field is no id, and InvalidField for a line
-// of a single field.
+// of a single field. The block size is LineReader's.
 
 /// The rows by id.
-[[nodiscard]] LAGOMARE_EXPORT QueryResult parseRows(std::istream& answer);
+[[nodiscard]] LAGOMARE_EXPORT QueryResult parseRows(std::istream& answer,
+                                                    std::size_t blockSize = LineReader::usualBlockSize);
 
 /// The values by id: of each row the field behind the id.
-[[nodiscard]] LAGOMARE_EXPORT ValueResult parseValues(std::istream& answer);
+[[nodiscard]] LAGOMARE_EXPORT ValueResult parseValues(std::istream& answer,
+                                                      std::size_t blockSize = LineReader::usualBlockSize);
 
 } // namespace Lagomare

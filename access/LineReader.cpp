@@ -4,13 +4,7 @@
 
 namespace Lagomare {
 
-namespace {
-
-constexpr std::size_t blockSize = std::size_t{1} << 16U;
-
-} // namespace
-
-LineReader::LineReader(std::istream& answer) : answer_(answer), block_(blockSize) {}
+LineReader::LineReader(std::istream& answer, std::size_t blockSize) : answer_(answer), block_(blockSize) {}
 
 bool LineReader::refill() {
   std::copy(block_.begin() + static_cast<std::ptrdiff_t>(begin_), block_.begin() + static_cast<std::ptrdiff_t>(end_),

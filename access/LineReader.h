@@ -14,8 +14,11 @@ namespace Lagomare {
 /// is skipped.
 class LAGOMARE_EXPORT LineReader {
 public:
-  /// Reads from the stream's place to where it ends or fails; the stream must outlive the reader.
-  explicit LineReader(std::istream& answer);
+  static constexpr std::size_t usualBlockSize = std::size_t{1} << 16U; ///< bytes
+
+  /// Reads from the stream's place to where it ends or fails; the stream must outlive the reader. A block has at least
+  /// one byte; it grows where a line is longer.
+  explicit LineReader(std::istream& answer, std::size_t blockSize = usualBlockSize);
 
   /// The next line, without its line feed; it stays valid until the next call. False where there is none.
   [[nodiscard]] bool next(std::string_view& line);
