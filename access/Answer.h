@@ -13,7 +13,7 @@ namespace Lagomare {
 // last field of each line no data. Fields are parted as StringUtils::split of the stand-alone core does it, but in
 // place: two blanks in a row enclose an empty field. Both functions read the stream to where it ends or fails; both
 // throw InvalidField or FieldOutOfRange ("stoul") for a line whose first field is no id, and InvalidField for a line
-// of a single field. The block size is LineReader's.
+// of a single field, each with the number of the row set. The block size is LineReader's.
 
 /// The rows by id.
 [[nodiscard]] LAGOMARE_EXPORT QueryResult parseRows(std::istream& answer,

@@ -1,5 +1,7 @@
 #include "access/FieldError.h"
 
+namespace Lagomare {
+
 FieldError::FieldError(std::optional<std::string> text) : text_(std::move(text)) {}
 
 FieldError::~FieldError() = default;
@@ -21,3 +23,5 @@ MissingField::MissingField(std::optional<std::uint32_t> rowId, std::size_t colum
       FieldError(std::nullopt) {
   setPlace(rowId, column);
 }
+
+} // namespace Lagomare

@@ -8,6 +8,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace Lagomare {
+
 /// What a field of an answer could not be read as, for whoever wants to say where. Thrown only as one of the
 /// classes below, each of which is also a standard exception; what() is that exception's text.
 class LAGOMARE_EXPORT FieldError {
@@ -21,7 +23,11 @@ public:
   /// The index of the field in its row, from 0, where known.
   [[nodiscard]] const std::optional<std::size_t>& column() const { return column_; }
 
+  /// The place of the row in the answer, from 1, where known. Empty lines do not count.
+  [[nodiscard]] const std::optional<std::size_t>& row() const { return row_; }
+
   void setPlace(std::optional<std::uint32_t> rowId, std::size_t column);
+  void setRow(std::optional<std::size_t> number) { row_ = number; }
 
 protected:
   explicit FieldError(std::optional<std::string> text);
@@ -32,6 +38,7 @@ private:
   std::optional<std::string> text_;
   std::optional<std::uint32_t> rowId_;
   std::optional<std::size_t> column_;
+  std::optional<std::size_t> row_;
 };
 
 /// The field holds no number: what() is "stoul" for ids, flags and codes, "stod" for values.
@@ -51,3 +58,5 @@ class LAGOMARE_EXPORT MissingField : public std::out_of_range, public FieldError
 public:
   MissingField(std::optional<std::uint32_t> rowId, std::size_t column);
 };
+
+} // namespace Lagomare

@@ -58,7 +58,7 @@ QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) con
   return Lagomare::parseRows(*ask(sql, flag));
 }
 
-ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool flag) const {
+Lagomare::ValueResult LagomareProjectManager::queryValues(const std::string& sql, bool flag) const {
   return Lagomare::parseValues(*ask(sql, flag));
 }
 

@@ -56,7 +56,7 @@ public:
   /// old answer would be read again. Throws as Lagomare::parseRows does.
   [[nodiscard]] QueryResult query(const std::string& sql, bool flag) const;
   /// The same for a query of an id and one value.
-  [[nodiscard]] ValueResult queryValues(const std::string& sql, bool flag) const;
+  [[nodiscard]] Lagomare::ValueResult queryValues(const std::string& sql, bool flag) const;
 
 private:
   explicit LagomareProjectManager(std::string databaseFilename);

@@ -3,29 +3,30 @@
 #include "access/FieldError.h"
 #include "access/Numbers.h"
 
-void ValueColumn::append(std::string_view text) {
-  const std::optional<double> number = Lagomare::readDouble(text);
-  if (!number)
-    unread_.emplace(size(), text);
-  numbers_.push_back(number.value_or(0.0));
-}
+#include <utility>
 
-void ValueColumn::appendMissing() {
-  unread_.emplace(size(), std::nullopt);
-  numbers_.push_back(0.0);
+namespace Lagomare {
+
+void ValueColumn::appendUnread(std::optional<std::string> text, std::size_t number) {
+  unread_.emplace(size(), Unread{std::move(text), number});
+  values_.push_back(0.0);
 }
 
 double ValueColumn::checkedNumberAt(std::size_t row) const {
   constexpr std::size_t column = 1;
-  const auto unread = unread_.find(row);
-  if (unread == unread_.end())
-    return numbers_.at(row);
-  if (!unread->second)
-    throw MissingField(id_, column);
+  const auto found = unread_.find(row);
+  if (found == unread_.end())
+    return values_.at(row);
+  const Unread& unread = found->second;
   try {
-    return Lagomare::toDouble(*unread->second);
+    if (!unread.text)
+      throw MissingField(id_, column);
+    return toDouble(*unread.text);
   } catch (FieldError& error) {
     error.setPlace(id_, column);
+    error.setRow(unread.number);
     throw;
   }
 }
+
+} // namespace Lagomare

@@ -7,6 +7,7 @@ add_library(telu-lagomare-project
   access/LagomareProjectManager.cpp
   access/LineReader.cpp
   access/Numbers.cpp
+  access/QueryResult.cpp
   access/QuerySource.cpp
   access/ValueColumn.cpp
   elements/common/Demands.cpp

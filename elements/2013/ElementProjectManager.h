@@ -25,7 +25,7 @@ public:
   static const std::string whereEH1;     ///< "where EstHidr = 1"
   static const std::string natFlowTable; ///< "LgmVazNat"
 
-  ElementProjectManager(const ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
+  ElementProjectManager(const Lagomare::ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
 
   /// Registers the kind's steps in the order in which they run.
   virtual void makeLambdas() = 0;
@@ -49,7 +49,7 @@ public:
   [[nodiscard]] static std::string valuesOf(const std::string& table);
 
 protected:
-  ElementMap elements;
+  Lagomare::ElementMap elements;
   std::shared_ptr<Scenario> scenario;
   std::vector<std::function<void(ElementProjectManager*, TeluCoreProgressBar&)>> steps;
 };

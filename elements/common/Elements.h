@@ -1,6 +1,6 @@
 #pragma once
 
-#include "access/QueryResult.h"
+#include "access/Fields.h"
 #include "elements/common/ElementMap.h"
 
 #include <stdexcept>
@@ -46,7 +46,7 @@ template <typename T, typename Visit>
 void forEachElement(const QueryResult& rows, const ElementMap& elements, Visit visit) {
   for (const auto& [id, rowsOfId] : rows)
     if (const auto element = findElement<T>(elements, id))
-      visit(element, rowsOfId.front());
+      inRow(rows, id, 0, [&, &row = rowsOfId.front()] { visit(element, row); });
 }
 
 } // namespace Lagomare

@@ -28,12 +28,11 @@ void loadStatePriorities(const QueryResult& rows, const Scenario& scenario) {
     if (!element)
       continue;
     S& settings = settingsOf<S>(*element, scenario);
-    unsigned stateIndex0 = 0;
-    for (const Row& row : rowsOfId) {
-      const unsigned priority = truncatedUnsignedAt(row, 1);
+    for (unsigned stateIndex0 = 0; stateIndex0 < rowsOfId.size(); ++stateIndex0) {
+      const Row& row = rowsOfId[stateIndex0];
+      const unsigned priority = inRow(rows, id, stateIndex0, [&row] { return truncatedUnsignedAt(row, 1); });
       if (stateIndex0 < settings.getPrioritySeries().size())
         settings.setPriorityOfPairPrioritySerie(priority, stateIndex0);
-      ++stateIndex0;
     }
   }
 }

@@ -11,22 +11,6 @@ namespace {
 
 constexpr double tolerance = 1e-6;
 
-std::vector<std::vector<double>> readCurve(const std::vector<Row>& rows, const CurveColumns& columns) {
-  std::vector<std::vector<double>> curve;
-  curve.reserve(rows.size());
-  for (const Row& row : rows)
-    curve.push_back({numberAt(row, columns.level), numberAt(row, columns.area), numberAt(row, columns.volume)});
-  return curve;
-}
-
-std::vector<double> readProfile(const std::vector<Row>& rows, double scale) {
-  std::vector<double> profile;
-  profile.reserve(rows.size());
-  for (const Row& row : rows)
-    profile.push_back(numberAt(row, 1) * scale);
-  return profile;
-}
-
 void layNetEvaporation(const std::vector<double>& profile, Serie& precipitation, Serie& evaporation,
                        const Interval& interval) {
   for (Date date = interval.getBegin(); date <= interval.getEnd(); date += Calendar::incInterval(date, interval)) {
@@ -59,9 +43,12 @@ void setSystemFlag(const Reservoir& reservoir, const Row& row, std::size_t colum
 }
 
 void loadCurves(const QueryResult& rows, const ElementMap& elements, const CurveColumns& columns) {
-  for (const auto& [id, rowsOfId] : rows)
-    if (const auto reservoir = findElement<Reservoir>(elements, id)) {
-      auto curve = readCurve(rowsOfId, columns);
+  const auto pointOf = [&columns](const Row& row) {
+    return std::vector{numberAt(row, columns.level), numberAt(row, columns.area), numberAt(row, columns.volume)};
+  };
+  for (const auto& entry : rows)
+    if (const auto reservoir = findElement<Reservoir>(elements, entry.first)) {
+      auto curve = readEach(rows, entry.first, pointOf);
       ReservoirInfo info = reservoir->getReservoirInfo();
       info.areaVolumeCurve = std::move(curve);
       reservoir->setReservoirInfo(std::move(info));
@@ -69,11 +56,12 @@ void loadCurves(const QueryResult& rows, const ElementMap& elements, const Curve
 }
 
 void loadNetEvaporation(const QueryResult& rows, const ElementMap& elements, const Interval& interval, double scale) {
-  for (const auto& [id, rowsOfId] : rows)
-    if (const auto reservoir = findElement<Reservoir>(elements, id)) {
+  for (const auto& entry : rows)
+    if (const auto reservoir = findElement<Reservoir>(elements, entry.first)) {
       Serie& precipitation = serieOf(*reservoir, SerieType::Precipitation);
       Serie& evaporation = serieOf(*reservoir, SerieType::Evapotranspiration);
-      layNetEvaporation(readProfile(rowsOfId, scale), precipitation, evaporation, interval);
+      const auto profile = readEach(rows, entry.first, [scale](const Row& row) { return numberAt(row, 1) * scale; });
+      layNetEvaporation(profile, precipitation, evaporation, interval);
     }
 }
 

@@ -16,10 +16,15 @@ template <typename Scenery, typename WantsStates>
                                                       const std::function<bool(long, long)>& progress) {
   if (settings.empty())
     return {importInvalid, nullptr};
-  const auto& rows = settings.begin()->second;
-  const auto scenario = Scenery::makeSceneryInstance(Scenery::loadInterval(rows));
-  const bool hasStates = wantsStates(rows.front());
-  if (unsignedAt(rows.front(), tacticalColumn) != 0)
+  const auto& [id, rows] = *settings.begin();
+  std::shared_ptr<Scenario> scenario;
+  bool hasStates = false;
+  const bool isTactical = inRow(settings, id, 0, [&, &rows = rows] {
+    scenario = Scenery::makeSceneryInstance(Scenery::loadInterval(rows));
+    hasStates = wantsStates(rows.front());
+    return unsignedAt(rows.front(), tacticalColumn) != 0;
+  });
+  if (isTactical)
     return {importRefused, nullptr};
   if (hasStates)
     Scenery::loadHydrologicalState(scenario);

@@ -44,8 +44,9 @@ void loadStates(Scenario& scenario, const std::string& boundaryTable) {
   auto& states = hydrologicalStatesOf(scenario);
   states.setCurrentHydrologicalStateType(DefaultHydrologicalType());
   std::vector<double> boundaries;
-  for (const auto& entry : LagomareProjectManager::getInstance()->query("select * from " + boundaryTable, false))
-    boundaries.push_back(numberAt(entry.second.front(), 1));
+  const auto rows = LagomareProjectManager::getInstance()->query("select * from " + boundaryTable, false);
+  for (const auto& [id, rowsOfId] : rows)
+    boundaries.push_back(inRow(rows, id, 0, [&row = rowsOfId.front()] { return numberAt(row, 1); }));
   states.setXValues(boundaries);
 }
 

@@ -4,6 +4,7 @@
 #include "access/LagomareProjectManager.h"
 #include "model/Link.h"
 
+using namespace Lagomare;
 using namespace testing;
 
 namespace {
@@ -60,6 +61,7 @@ TEST_P(LagomareProjectLoaderTest, LeavesScriptAndAnswerAfterAnErrorUntilAnImport
     import(network + "insert into linkLimit (id, value) values (6, 'a lot');");
     FAIL() << "a flow limit that is no number was read";
   } catch (const FieldError& error) {
+    EXPECT_EQ(error.row(), 2U);
     EXPECT_EQ(error.rowId(), 6U);
     EXPECT_EQ(error.column(), 1U);
     EXPECT_EQ(error.text(), "a\u00A0lot");

@@ -3,6 +3,7 @@
 #include "access/FieldError.h"
 #include "model/TeluUtmDegreeConversion.h"
 
+using namespace Lagomare;
 using namespace testing;
 
 namespace {

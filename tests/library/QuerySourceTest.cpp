@@ -1,6 +1,7 @@
 #include "access/QuerySource.h"
 
 #include "ImportFixture.h"
+#include "access/FieldError.h"
 #include "access/LagomareProjectManager.h"
 
 #include <fstream>
@@ -96,4 +97,36 @@ TEST_F(QuerySourceTest, PassesItsExceptionsOnAndKeepsNothingOfHalfAnAnswer) {
     EXPECT_THAT([sql] { ask(sql); }, ThrowsMessage<std::runtime_error>(HasSubstr("no answer that can be read: ")));
   EXPECT_EQ(ask("whole"), (QueryResult{{3, {{"3", "4"}}}}));
   EXPECT_EQ(source->asked.back(), "whole|1");
+}
+
+TEST_F(QuerySourceTest, LetsErrorsTellTheRowOfEveryKindOfTable) {
+  const std::string nodes = "select NumPonto, Nome, Coord_X, Coord_Y";
+  const std::map<std::string, std::string> project{
+      {"select FORMAT(DataHoraIni, 'dd/mm/yyyy'), Duracao, OptCalc, TipoSimul from Tk_Gerais", "01/01/2000 1 1 0 .\n"},
+      {"select * from LgmFrontEH", "1 0.5 .\n"},
+      {"select NumPonto from Tk_Res_FEA", "1 .\n2 .\n"},
+      {"select NumPonto from Tk_Dem_FEA", "3 .\n"},
+      {nodes + ", VolMax, VolMin, VolIni, Subsist from Tk_Res_FEA", "1 R 5e5 8e6 0 0 0 0 .\n2 R 5e5 8e6 0 0 0 0 .\n"},
+      {nodes + " from Tk_Dem_FEA", "3 D 5e5 8e6 .\n"}};
+  const std::map<std::string, std::string> damages{
+      {"select FORMAT(DataHoraIni, 'dd/mm/yyyy'), Duracao, OptCalc, TipoSimul from Tk_Gerais",
+       "2 .\n3 .\n01/01/2000 x 1 0 .\n"},
+      {"select * from LgmFrontEH", "1 0.5 .\n2 0.7 .\n3 x .\n"},
+      {nodes + " from Tk_Dem_FEA", "9 D 5e5 8e6 .\n9 D 5e5 8e6 .\n3 D 5e5 x .\n"},
+      {"select NumPto, Valor from LgmVazNat ", "2 1 .\n1 1 .\n2 x .\n"},
+      {"select * from LgmResCAV", "2 1 1 1 .\n1 1 1 1 .\n2 1 x 1 .\n"},
+      {"select NumPto, Valor from LgmResEvap", "2 1 .\n1 1 .\n2 x .\n"},
+      {"select NumPto, Valor from LgmResPrior", "2 1 .\n1 1 .\n2 x .\n"},
+      {"select NumPto, Valor from LgmResVmetaSC where EstHidr = 2", "2 1 .\n1 1 .\n2 .\n"}};
+  for (const auto& [sql, answer] : damages) {
+    source->answers = project;
+    source->answers[sql] = answer;
+    try {
+      LagomareProjectManager::getInstance("a.db")->setSource(source);
+      static_cast<void>(LagomareProjectLoader::load2013("", "", {}));
+      ADD_FAILURE() << sql;
+    } catch (const Lagomare::FieldError& error) {
+      EXPECT_EQ(error.row(), 3U) << sql;
+    }
+  }
 }

@@ -57,7 +57,7 @@ Probe askFor(Dialect dialect, const Inputs& inputs, const std::string& plainData
       requireLaunched();
       return {Finding::held, ""};
     }
-  } catch (const FieldError&) {
+  } catch (const Lagomare::FieldError&) {
     // No row either.
   }
   requireLaunched();

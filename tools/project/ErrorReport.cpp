@@ -48,7 +48,7 @@ std::string columnText(std::size_t column, const LastQuery& query) {
 }
 
 /// What stands there and what should.
-std::string faultOf(const FieldError& field, const std::exception& error, const std::string& columnName) {
+std::string faultOf(const Lagomare::FieldError& field, const std::exception& error, const std::string& columnName) {
   const bool isWhole = std::string_view(error.what()) == "stoul";
   const bool isDate = columnName.find("Data") != std::string::npos;
   const std::string wanted = isDate ? "a date" : isWhole ? "a whole number from 0 to 4294967295" : "a number";
@@ -69,14 +69,14 @@ bool hasIds(const std::string& table) {
   return table != settingsTableOf(Dialect::of2010) && table != settingsTableOf(Dialect::of2013);
 }
 
-std::string rowText(const FieldError& field, const LastQuery& query) {
+std::string rowText(const Lagomare::FieldError& field, const LastQuery& query) {
   const auto id = hasIds(query.table) ? field.rowId() : std::nullopt;
   const std::size_t number = field.text() ? findRow(id, field.column().value_or(0), *field.text()) : 0;
   const std::string row = number == 0 ? "a row" : "row " + std::to_string(number);
   return id ? row + " of the id " + std::to_string(*id) : row;
 }
 
-std::string describeField(const FieldError& field, const std::exception& error, const LastQuery& query) {
+std::string describeField(const Lagomare::FieldError& field, const std::exception& error, const LastQuery& query) {
   const std::string column = columnText(field.column().value_or(0), query);
   return rowText(field, query) + ", " + column + ' ' + faultOf(field, error, column);
 }
@@ -123,7 +123,7 @@ std::string faultText(const std::exception& error, const LastQuery& query, const
   const std::string refusal = refusalOfLastQuery(place.inputs, place.plainDatabase);
   if (!refusal.empty())
     return "cannot be read: " + refusal + (isOfMissingPart(refusal, query) ? hintForMissingPart(place) : "");
-  if (const auto* field = dynamic_cast<const FieldError*>(&error))
+  if (const auto* field = dynamic_cast<const Lagomare::FieldError*>(&error))
     return describeField(*field, error, query) + hintForOwnExecutable(place);
   const std::string what = error.what();
   const std::string row = oddRow(what, place);
