@@ -1,12 +1,9 @@
 #include "support/CommandTest.h"
 
 #include <nlohmann/json.hpp>
-#include <set>
 
 using nlohmann::json;
-using testing::EndsWith;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 class ExportTest : public CommandTest {
 protected:
@@ -18,12 +15,6 @@ protected:
   static json find(const json& list, int id) {
     for (const json& entry : list)
       if (entry["id"] == id)
-        return entry;
-    return nullptr;
-  }
-  static json feature(const json& collection, int id, const char* type) {
-    for (const json& entry : collection["features"])
-      if (entry["properties"]["id"] == id && entry["geometry"]["type"] == type)
         return entry;
     return nullptr;
   }
@@ -69,44 +60,16 @@ TEST_F(ExportTest, OddValuesStayValid) {
   EXPECT_THAT(readFile("tables/series.csv"), HasSubstr(",2000-01-01,\r\n"));
 }
 
-TEST_F(ExportTest, GeoJsonHasWhatAppliesToEachFeature) {
-  project();
-  const json collection = exported("--geojson");
-  EXPECT_EQ(collection["type"], "FeatureCollection");
-  // Programs take the id of the properties for a feature's own where it has none; the node 1 and the link 1 share it.
-  std::set<json> ids;
-  for (const json& entry : collection["features"])
-    EXPECT_TRUE(ids.insert(entry["id"]).second) << entry;
-  const json reservoir = feature(collection, 1, "Point");
-  EXPECT_NEAR(reservoir["geometry"]["coordinates"][0], -45, 1e-6); // longitude first: the zone's middle
-  EXPECT_NEAR(reservoir["geometry"]["coordinates"][1], -18.08, 0.02);
-  EXPECT_EQ(reservoir["properties"],
-            json::parse(R"({"id": 1, "kind": 0, "kindName": "Reservatório", "name": "Açude Velho",
-              "priority": 7, "initialVolume": 50, "minimumVolume": 10, "maximumVolume": 100.5})"));
-  EXPECT_NEAR(feature(collection, 21, "Point")["properties"]["meanNaturalFlow"], 0.65, 1e-12);
-  EXPECT_EQ(feature(collection, 11, "Point")["properties"]["meanDemand"], 2);
-  EXPECT_FALSE(feature(collection, 12, "Point")["properties"].contains("meanDemand"));
-  const json link = feature(collection, 3, "LineString");
-  EXPECT_EQ(link["geometry"]["coordinates"][1], feature(collection, 21, "Point")["geometry"]["coordinates"]);
-  EXPECT_EQ(link["properties"], json::parse(R"({"id": 3, "kind": 11, "kindName": "Trecho natural", "name": "C",
-              "upstream": 2, "downstream": 21, "flowLimit": 12.5, "lossPercent": 35, "bidirectional": false})"));
-}
-
-TEST_F(ExportTest, CsvTablesAreTidy) {
-  project();
+TEST_F(ExportTest, CsvIsForProgramsOrForBrazilianSpreadsheets) {
+  project("update Tk_Lnk_FEA set Nome = 'C; d, e' where UID = 3");
   EXPECT_EQ(import({"basin.db", "--quiet", "--csv", "tables"}).exitCode, 0);
-  const std::string elements = readFile("tables/elements.csv");
-  EXPECT_THAT(elements, StartsWith("id,kind,kind_name,name,longitude,latitude,priority,initial_volume,minimum_volume,"
-                                   "maximum_volume\r\n1,0,Reservatório,Açude Velho,-45,"));
-  EXPECT_THAT(elements, HasSubstr("\r\n2,0,Reservatório,\"Um, \"\"dois\"\"\","));
-  EXPECT_THAT(elements, EndsWith(",,,,\r\n")); // a junction has neither priority nor volumes
-  const std::string links = readFile("tables/links.csv");
-  EXPECT_THAT(links, HasSubstr("\r\n1,10,Trecho artificial,Canal,1,2,true,,0\r\n"));
-  EXPECT_THAT(links, HasSubstr("\r\n3,11,Trecho natural,C,2,21,false,12.5,35\r\n"));
-  const std::string series = readFile("tables/series.csv");
-  EXPECT_THAT(series, HasSubstr("\r\n21,7,,2,Vazão natural incremental,m³/s,,2000-03-01,0.3\r\n"));
-  EXPECT_THAT(series, HasSubstr("\r\n1,0,Açude Velho,3,Volume meta,adimensional,2,2000-01-01,0.25\r\n"));
-  EXPECT_THAT(series, HasSubstr("\r\n3,11,C,42,Limite de trecho,m³/s,,2000-12-01,12.5\r\n"));
   EXPECT_EQ(readFile("tables/curves.csv"),
-            "reservoir_id,point,level,area,volume\r\n1,1,400,0.1,10\r\n1,2,410,3,100.5\r\n");
+            "reservoir_id,point,level_m,area_km2,volume_hm3\r\n1,1,400,0.1,10\r\n1,2,410,3,100.5\r\n");
+  EXPECT_THAT(readFile("tables/elements.csv"), HasSubstr("\r\n2,0,Reservatório,\"Um, \"\"dois\"\"\","));
+  EXPECT_THAT(readFile("tables/links.csv"), HasSubstr("\r\n3,11,Trecho natural,\"C; d, e\",2,21,false,12.5,35\r\n"));
+  EXPECT_EQ(import({"basin.db", "--quiet", "--csv", "tables", "--csv-format", "excel-br"}).exitCode, 0);
+  EXPECT_EQ(readFile("tables/curves.csv"), "\xEF\xBB\xBFreservoir_id;point;level_m;area_km2;volume_hm3\r\n"
+                                           "1;1;400;0,1;10\r\n1;2;410;3;100,5\r\n");
+  EXPECT_THAT(readFile("tables/elements.csv"), HasSubstr("\r\n2;0;Reservatório;\"Um, \"\"dois\"\"\";"));
+  EXPECT_THAT(readFile("tables/links.csv"), HasSubstr("\r\n3;11;Trecho natural;\"C; d, e\";2;21;false;12,5;35\r\n"));
 }

@@ -2,7 +2,9 @@
 
 #include "tools/export/CsvExport.h"
 #include "tools/export/GeoJsonExport.h"
+#include "tools/export/GeoPackageExport.h"
 #include "tools/export/JsonExport.h"
+#include "tools/export/WorkbookExport.h"
 
 namespace LagomareTools {
 
@@ -14,11 +16,14 @@ void writeGeoJsonFile(OutputFile& file, const ExportInput& input) {
   writeGeoJson(file.writer(), *input.imported.result.scenario);
 }
 
+void writeGeoPackageFile(OutputFile& file, const ExportInput& input) { writeGeoPackage(file.path(), input); }
+
+void writeWorkbookFile(OutputFile& file, const ExportInput& input) { writeWorkbook(file.path(), input); }
+
 template <std::size_t index>
 OutputPart csvPart() {
-  return {csvTables[index].fileName, [](OutputFile& file, const ExportInput& input) {
-            csvTables[index].write(file.writer(), *input.imported.result.scenario);
-          }};
+  return {csvTables[index].fileName,
+          [](OutputFile& file, const ExportInput& input) { writeCsv(file.writer(), csvTables[index].table, input); }};
 }
 
 } // namespace
@@ -27,8 +32,8 @@ const std::vector<OutputKind>& outputKinds() {
   static const std::vector<OutputKind> kinds{
       {"--json", "FILE", "Write the whole scenario; - is standard output", true, true, {{"", writeJsonFile}}},
       {"--geojson", "FILE", "Write the network for a GIS; - is standard output", true, false, {{"", writeGeoJsonFile}}},
-      {"--gpkg", "FILE", "Write network, series and curves as a GeoPackage", false, false, {{"", nullptr}}},
-      {"--xlsx", "FILE", "Write a workbook", false, false, {{"", nullptr}}},
+      {"--gpkg", "FILE", "Write network, series and curves as a GeoPackage", false, false, {{"", writeGeoPackageFile}}},
+      {"--xlsx", "FILE", "Write a workbook", false, false, {{"", writeWorkbookFile}}},
       {"--html", "FILE", "Write a report to look at", false, false, {{"", nullptr}}},
       {"--csv",
        "DIR",

@@ -9,47 +9,45 @@ namespace LagomareTools {
 
 namespace {
 
-using Position = std::pair<double, double>; ///< longitude, latitude
-
-std::optional<Position> positionOf(const Node* node) {
-  if (node == nullptr || !std::isfinite(node->getX()) || !std::isfinite(node->getY()))
-    return std::nullopt;
-  return Position(node->getX(), node->getY());
-}
+/// Seven decimals, some 1 cm on the ground: RFC 7946 advises against more.
+double roundedDegrees(double degrees) { return std::round(degrees * 1e7) / 1e7; }
 
 void writePosition(JsonWriter& json, const Position& position) {
   json.beginArray();
-  json.number(position.first);
-  json.number(position.second);
+  json.number(roundedDegrees(position.first));
+  json.number(roundedDegrees(position.second));
   json.endArray();
 }
 
-void beginGeometry(JsonWriter& json, const char* type) {
+void writeGeometry(JsonWriter& json, const Line& line) {
+  if (line.empty())
+    return json.null();
   json.beginObject();
-  json.text("type", type);
+  json.text("type", line.size() == 1 ? "Point" : "LineString");
   json.key("coordinates");
-}
-
-void writePoint(JsonWriter& json, const Node& node) {
-  const auto position = positionOf(&node);
-  if (!position)
-    return json.null();
-  beginGeometry(json, "Point");
-  writePosition(json, *position);
+  if (line.size() == 1) {
+    writePosition(json, line.front());
+  } else {
+    json.beginArray();
+    for (const Position& position : line)
+      writePosition(json, position);
+    json.endArray();
+  }
   json.endObject();
 }
 
-void writeLine(JsonWriter& json, const Link& link) {
-  const auto begin = positionOf(link.upstream.lock().get());
-  const auto end = positionOf(link.downstream.lock().get());
-  if (!begin || !end)
-    return json.null();
-  beginGeometry(json, "LineString");
+/// West, south, east, north; nothing where no node has a position.
+void writeBox(JsonWriter& json, const Network& network) {
+  Box box;
+  for (const auto& node : network.nodes)
+    box.include(lineOf(*node));
+  if (box.isEmpty())
+    return;
+  json.key("bbox");
   json.beginArray();
-  writePosition(json, *begin);
-  writePosition(json, *end);
+  for (const double degrees : {box.west, box.south, box.east, box.north})
+    json.number(roundedDegrees(degrees));
   json.endArray();
-  json.endObject();
 }
 
 void writeIdentity(JsonWriter& json, const Element& element) {
@@ -62,7 +60,7 @@ void writeIdentity(JsonWriter& json, const Element& element) {
 /// Properties stand only where they apply.
 void writeKnown(JsonWriter& json, const char* name, std::optional<double> value) {
   if (value)
-    json.number(name, value);
+    json.real(name, value);
 }
 
 void writeNodeProperties(JsonWriter& json, const Scenario& scenario, const Node& node) {
@@ -71,9 +69,9 @@ void writeNodeProperties(JsonWriter& json, const Scenario& scenario, const Node&
   if (const auto settings = settingsOf(scenario, node))
     json.integer("priority", settings->priority);
   if (const auto* info = reservoirInfoOf(node)) {
-    json.number("initialVolume", info->initialVolume);
-    json.number("minimumVolume", info->minimumVolume);
-    json.number("maximumVolume", info->maximumVolume);
+    json.real("initialVolume", info->initialVolume);
+    json.real("minimumVolume", info->minimumVolume);
+    json.real("maximumVolume", info->maximumVolume);
   }
   writeKnown(json, "meanNaturalFlow", meanOf(node, SerieType::NaturalAffluentFlow));
   writeKnown(json, "meanDemand", meanOf(node, SerieType::WaterDemand));
@@ -91,16 +89,16 @@ void writeLinkProperties(JsonWriter& json, const Link& link) {
   json.endObject();
 }
 
-/// The number is the feature's own id. Where it lacks one, programs take the property's, which a node and a link may
-/// share, and lose one of the two.
-template <typename WriteGeometry, typename WriteProperties>
-void writeFeature(JsonWriter& json, unsigned number, WriteGeometry writeGeometry, WriteProperties writeProperties) {
+/// Where a feature lacks an id of its own, programs take the property's, which a node and a link may share, and lose
+/// one of the two.
+template <typename WriteProperties>
+void writeFeature(JsonWriter& json, const std::string& id, const Line& line, WriteProperties writeProperties) {
   json.breakLine();
   json.beginObject();
   json.text("type", "Feature");
-  json.integer("id", number);
+  json.text("id", id);
   json.key("geometry");
-  writeGeometry();
+  writeGeometry(json, line);
   json.key("properties");
   writeProperties();
   json.endObject();
@@ -113,15 +111,14 @@ void writeGeoJson(FileWriter& out, const Scenario& scenario) {
   JsonWriter json(out);
   json.beginObject();
   json.text("type", "FeatureCollection");
+  writeBox(json, network);
   json.key("features");
   json.beginArray();
-  unsigned number = 0;
   for (const auto& node : network.nodes)
-    writeFeature(
-        json, ++number, [&] { writePoint(json, *node); }, [&] { writeNodeProperties(json, scenario, *node); });
+    writeFeature(json, "node-" + std::to_string(node->bdId), lineOf(*node),
+                 [&] { writeNodeProperties(json, scenario, *node); });
   for (const auto& link : network.links)
-    writeFeature(
-        json, ++number, [&] { writeLine(json, *link); }, [&] { writeLinkProperties(json, *link); });
+    writeFeature(json, "link-" + std::to_string(link->bdId), lineOf(*link), [&] { writeLinkProperties(json, *link); });
   json.endArray();
   json.endObject();
   out.write("\n");

@@ -53,6 +53,15 @@ void JsonWriter::number(std::optional<double> value) {
     null();
 }
 
+void JsonWriter::real(std::optional<double> value) {
+  if (!value || !std::isfinite(*value))
+    return null();
+  std::string text(NumberText(*value).view());
+  if (text.find_first_of(".e") == std::string::npos)
+    text += ".0";
+  piece(text);
+}
+
 void JsonWriter::integer(std::optional<std::int64_t> value) {
   if (value)
     piece(std::to_string(*value));

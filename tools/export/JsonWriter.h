@@ -25,12 +25,15 @@ public:
   void text(std::string_view text);
   /// null where it is not finite or missing.
   void number(std::optional<double> value);
+  /// As number(), but a whole number keeps a decimal ("12.0"): programs take a column's type from a number's text.
+  void real(std::optional<double> value);
   void integer(std::optional<std::int64_t> value);
   void truth(bool value) { piece(value ? "true" : "false"); }
   void null() { piece("null"); }
 
   void text(std::string_view name, std::string_view value) { key(name), text(value); }
   void number(std::string_view name, std::optional<double> value) { key(name), number(value); }
+  void real(std::string_view name, std::optional<double> value) { key(name), real(value); }
   void integer(std::string_view name, std::optional<std::int64_t> value) { key(name), integer(value); }
   void truth(std::string_view name, bool value) { key(name), truth(value); }
 

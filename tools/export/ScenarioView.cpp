@@ -1,5 +1,8 @@
 #include "tools/export/ScenarioView.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace LagomareTools {
 
 namespace {
@@ -39,6 +42,30 @@ HydrologicalStateConfiguration statesOf(const Scenario& scenario) {
 std::optional<std::uint32_t> idOf(const std::weak_ptr<Node>& end) {
   const auto node = end.lock();
   return node ? std::optional(node->bdId) : std::nullopt;
+}
+
+Line lineOf(const Node& node) {
+  if (!std::isfinite(node.getX()) || !std::isfinite(node.getY()))
+    return {};
+  return {{node.getX(), node.getY()}};
+}
+
+Line lineOf(const Link& link) {
+  Line line;
+  for (const auto& end : {link.upstream.lock(), link.downstream.lock()})
+    if (end)
+      for (const Position& position : lineOf(*end))
+        line.push_back(position);
+  return line.size() == 2 ? line : Line();
+}
+
+void Box::include(const Line& line) {
+  for (const auto& [longitude, latitude] : line) {
+    west = std::min(west, longitude);
+    south = std::min(south, latitude);
+    east = std::max(east, longitude);
+    north = std::max(north, latitude);
+  }
 }
 
 std::optional<double> meanOf(const Element& element, SerieType type) {
