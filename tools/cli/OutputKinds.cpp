@@ -4,6 +4,7 @@
 #include "tools/export/GeoJsonExport.h"
 #include "tools/export/GeoPackageExport.h"
 #include "tools/export/JsonExport.h"
+#include "tools/export/Report.h"
 #include "tools/export/WorkbookExport.h"
 
 namespace LagomareTools {
@@ -20,6 +21,8 @@ void writeGeoPackageFile(OutputFile& file, const ExportInput& input) { writeGeoP
 
 void writeWorkbookFile(OutputFile& file, const ExportInput& input) { writeWorkbook(file.path(), input); }
 
+void writeHtmlFile(OutputFile& file, const ExportInput& input) { writeReport(file.writer(), input); }
+
 template <std::size_t index>
 OutputPart csvPart() {
   return {csvTables[index].fileName,
@@ -34,7 +37,7 @@ const std::vector<OutputKind>& outputKinds() {
       {"--geojson", "FILE", "Write the network for a GIS; - is standard output", true, false, {{"", writeGeoJsonFile}}},
       {"--gpkg", "FILE", "Write network, series and curves as a GeoPackage", false, false, {{"", writeGeoPackageFile}}},
       {"--xlsx", "FILE", "Write a workbook", false, false, {{"", writeWorkbookFile}}},
-      {"--html", "FILE", "Write a report to look at", false, false, {{"", nullptr}}},
+      {"--html", "FILE", "Write a report to look at", false, false, {{"", writeHtmlFile}}},
       {"--csv",
        "DIR",
        "Write elements.csv, links.csv, series.csv and curves.csv into DIR",

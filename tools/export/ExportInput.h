@@ -4,6 +4,7 @@
 #include "tools/project/Imported.h"
 #include "tools/project/UtmZone.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ struct ExportInput {
   UtmZone utmZone;
   bool isZoneAssumed;
   CsvFormat csvFormat;
-  std::vector<Fault> faults; ///< what the check found; empty with --no-check
+  std::optional<std::vector<Fault>> faults; ///< what the check found; nothing with --no-check
 };
 
 } // namespace LagomareTools

@@ -1,0 +1,132 @@
+#include "tools/export/report/LabelPlacer.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace LagomareTools {
+
+namespace {
+
+constexpr double cell = 48.0;     ///< pixels
+constexpr double gap = 3.0;       ///< between a symbol and its label
+constexpr double breathing = 4.0; ///< free room between labels
+
+template <typename Visit>
+void forEachCell(double left, double top, double right, double bottom, Visit visit) {
+  const auto index = [](double place) { return static_cast<std::int64_t>(std::floor(place / cell)); };
+  for (std::int64_t row = index(top); row <= index(bottom); ++row)
+    for (std::int64_t column = index(left); column <= index(right); ++column)
+      visit(row * 1000000 + column);
+}
+
+/// The places for a label beside a symbol, the best first.
+std::array<LabelPlace, 8> placesAround(double radius, unsigned level) {
+  const double aside = radius + gap;
+  const double middle = LabelPlacer::textHeight * 0.35;
+  const double below = aside + LabelPlacer::textHeight * 0.75;
+  const double corner = radius * 0.7 + 1.0;
+  return {{{aside, middle, "start", level},
+           {-aside, middle, "end", level},
+           {corner, -corner, "start", level},
+           {corner, corner + LabelPlacer::textHeight * 0.75, "start", level},
+           {-corner, -corner, "end", level},
+           {-corner, corner + LabelPlacer::textHeight * 0.75, "end", level},
+           {0, below, "middle", level},
+           {0, -aside, "middle", level}}};
+}
+
+} // namespace
+
+double pixelsPerUnit(unsigned level) { return std::ldexp(0.5, static_cast<int>(level)); }
+
+double roomForSymbols(std::size_t nodes) {
+  return std::sqrt(160.0 / static_cast<double>(std::max<std::size_t>(nodes, 1)));
+}
+
+double symbolScale(double pixelsPerUnit, double room) { return std::clamp(pixelsPerUnit * room, 0.4, 1.0); }
+
+void LabelPlacer::addSymbol(MapPoint at, double radius) {
+  for (unsigned level = 0; level < numOfMapLevels; ++level) {
+    const double pixels = pixelsPerUnit(level);
+    const double size = radius * symbolScale(pixels, room_);
+    take({at.x * pixels - size, at.y * pixels - size, at.x * pixels + size, at.y * pixels + size}, level);
+  }
+}
+
+std::optional<LabelPlace> LabelPlacer::place(const LabelOwner& owner, std::size_t length) {
+  // A clear place one level further is better than one that a link crosses.
+  for (unsigned level = 0; level < numOfMapLevels; ++level)
+    if (const auto clear = placeAt(owner, length, level, false))
+      return clear;
+    else if (level > 0)
+      if (const auto crossed = placeAt(owner, length, level - 1, true))
+        return crossed;
+  return std::nullopt;
+}
+
+std::optional<LabelPlace> LabelPlacer::placeAt(const LabelOwner& owner, std::size_t length, unsigned level,
+                                               bool isCrossedThere) {
+  for (const LabelPlace& place : placesAround(owner.radius, level))
+    if (isCrossed(place, owner, length) == isCrossedThere && isFreeFrom(place, owner.at, length)) {
+      for (unsigned further = level; further < numOfMapLevels; ++further)
+        takeLabel(labelBox(place, owner.at, length, further), further);
+      return place;
+    }
+  return std::nullopt;
+}
+
+bool LabelPlacer::isFreeFrom(const LabelPlace& place, MapPoint at, std::size_t length) const {
+  unsigned level = place.level;
+  while (level < numOfMapLevels && isFree(labelBox(place, at, length, level), level))
+    ++level;
+  return level == numOfMapLevels;
+}
+
+bool LabelPlacer::isCrossed(const LabelPlace& place, const LabelOwner& owner, std::size_t length) {
+  constexpr double reach = 80.0; // pixels, in steps of 3: a label's height is more
+  const Box box = labelBox(place, {0, 0}, length, 0);
+  for (const MapPoint& neighbour : owner.neighbours) {
+    const double x = neighbour.x - owner.at.x;
+    const double y = neighbour.y - owner.at.y;
+    const double distance = std::max(std::hypot(x, y), 1e-9);
+    for (double step = owner.radius; step < reach; step += 3.0) {
+      const MapPoint point{x / distance * step, y / distance * step};
+      if (box.left < point.x && point.x < box.right && box.top < point.y && point.y < box.bottom)
+        return true;
+    }
+  }
+  return false;
+}
+
+LabelPlacer::Box LabelPlacer::labelBox(const LabelPlace& place, MapPoint at, std::size_t length, unsigned level) {
+  const double width = textWidth * static_cast<double>(length);
+  const double begin = place.anchor[0] == 's' ? 0 : place.anchor[0] == 'e' ? -width : -width / 2;
+  const double left = at.x * pixelsPerUnit(level) + place.x + begin;
+  const double base = at.y * pixelsPerUnit(level) + place.y;
+  return {left, base - textHeight * 0.8, left + width, base + textHeight * 0.2};
+}
+
+bool LabelPlacer::isFree(const Box& box, unsigned level) const {
+  const double pixels = pixelsPerUnit(level);
+  bool isFree =
+      box.left >= 0 && box.top >= 0 && box.right <= NetworkMap::width * pixels && box.bottom <= height_ * pixels;
+  const auto covers = [&box](const Box& other) {
+    return other.left < box.right && box.left < other.right && other.top < box.bottom && box.top < other.bottom;
+  };
+  forEachCell(box.left, box.top, box.right, box.bottom, [&](std::int64_t key) {
+    const auto found = boxes_[level].find(key);
+    if (found != boxes_[level].end() && std::any_of(found->second.begin(), found->second.end(), covers))
+      isFree = false;
+  });
+  return isFree;
+}
+
+void LabelPlacer::takeLabel(const Box& box, unsigned level) {
+  take({box.left - breathing, box.top - breathing, box.right + breathing, box.bottom + breathing}, level);
+}
+
+void LabelPlacer::take(const Box& box, unsigned level) {
+  forEachCell(box.left, box.top, box.right, box.bottom, [&](std::int64_t key) { boxes_[level][key].push_back(box); });
+}
+
+} // namespace LagomareTools

@@ -1,0 +1,221 @@
+#include "tools/export/report/NetworkDrawing.h"
+
+#include "tools/export/report/HtmlText.h"
+#include "tools/export/report/KindLook.h"
+#include "tools/export/report/LabelPlacer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fmt/format.h>
+#include <map>
+
+namespace LagomareTools {
+
+namespace {
+
+constexpr std::size_t longestLabel = 26;
+constexpr double shortestArrowLink = 26.0; ///< pixels; on a shorter link an arrow head would hide it
+constexpr double bow = 16.0;               ///< how far links beside each other keep apart
+constexpr double usualScaleBar = 130.0;
+
+std::string titleOf(const Element& element) {
+  return htmlText(element.getName() + " · " + element.getElementType()->name);
+}
+
+/// A link from one place to another, bowed where others join the same two.
+struct LinkLine {
+  MapPoint begin;
+  MapPoint bend;
+  MapPoint end;
+
+  [[nodiscard]] double length() const { return std::hypot(end.x - begin.x, end.y - begin.y); }
+  [[nodiscard]] double angle() const { return std::atan2(end.y - begin.y, end.x - begin.x) * 180 / std::acos(-1.0); }
+  [[nodiscard]] MapPoint middle() const {
+    return {(begin.x + 2 * bend.x + end.x) / 4, (begin.y + 2 * bend.y + end.y) / 4};
+  }
+  [[nodiscard]] std::string path(bool isStraight) const {
+    const std::string start = fmt::format("M{:.1f} {:.1f}", begin.x, begin.y);
+    if (length() < 0.1)
+      return start + "c16-24-16-24 0 0"; // to itself: a loop
+    return start + (isStraight ? "L" : fmt::format("Q{:.1f} {:.1f} ", bend.x, bend.y)) +
+           fmt::format("{:.1f} {:.1f}", end.x, end.y);
+  }
+};
+
+class Drawing {
+public:
+  Drawing(FileWriter& out, const Scenario& scenario, const Network& network)
+      : out_(out), scenario_(scenario), network_(network), map_(network), labels_(network.nodes.size(), map_.height()) {
+  }
+
+  void write();
+
+private:
+  void writeLink(const Link& link);
+  void writeNode(const Node& node);
+  void writeScaleBar();
+  void writeMissing(std::size_t links);
+  void placeLabels();
+  [[nodiscard]] std::vector<MapPoint> neighboursOf(const Node& node) const;
+  [[nodiscard]] double weightOf(const Node& node) const;
+
+  FileWriter& out_;
+  const Scenario& scenario_;
+  const Network& network_;
+  NetworkMap map_;
+  LabelPlacer labels_;
+  std::unordered_map<const Node*, LabelPlace> places_;
+  std::map<std::pair<std::uint32_t, std::uint32_t>, unsigned> linksBetween_; ///< by the ids of the two ends
+};
+
+/// The larger, the more one looks for its name.
+double Drawing::weightOf(const Node& node) const {
+  if (const auto* info = reservoirInfoOf(node))
+    return info->maximumVolume;
+  return meanOf(node, SerieType::WaterDemand).value_or(meanOf(node, SerieType::NaturalAffluentFlow).value_or(0.0));
+}
+
+std::vector<MapPoint> Drawing::neighboursOf(const Node& node) const {
+  std::vector<MapPoint> neighbours;
+  const auto add = [&](const std::weak_ptr<Node>& neighbour) {
+    if (const auto point = map_.find(neighbour.lock().get()))
+      neighbours.push_back(*point);
+  };
+  for (const auto& link : node.getUpstreamLinks())
+    add(link->upstream);
+  for (const auto& link : node.getDownstreamLinks())
+    add(link->downstream);
+  return neighbours;
+}
+
+void Drawing::placeLabels() {
+  struct Candidate {
+    unsigned rank;
+    double weight;
+    const Node* node;
+  };
+  std::vector<Candidate> candidates;
+  for (const auto& node : network_.nodes)
+    if (const auto point = map_.find(node.get())) {
+      const KindLook& look = lookOf(node->getElementType()->type());
+      labels_.addSymbol(*point, look.radius);
+      candidates.push_back({look.rank, weightOf(*node), node.get()});
+    }
+  std::stable_sort(candidates.begin(), candidates.end(), [](const Candidate& one, const Candidate& other) {
+    return one.rank != other.rank ? one.rank > other.rank : one.weight > other.weight;
+  });
+  for (const Candidate& candidate : candidates) {
+    const std::string label = shortened(candidate.node->getName(), longestLabel);
+    const double radius = lookOf(candidate.node->getElementType()->type()).radius;
+    if (const auto place =
+            labels_.place({*map_.find(candidate.node), radius, neighboursOf(*candidate.node)}, lengthOf(label)))
+      places_.emplace(candidate.node, *place);
+  }
+}
+
+void Drawing::writeLink(const Link& link) {
+  const Node* const upstream = link.upstream.lock().get();
+  const Node* const downstream = link.downstream.lock().get();
+  const MapPoint begin = *map_.find(upstream);
+  const MapPoint end = *map_.find(downstream);
+  const unsigned place = linksBetween_[std::minmax(upstream->bdId, downstream->bdId)]++;
+  const double side =
+      (place % 2 == 0 ? -1.0 : 1.0) * (upstream->bdId < downstream->bdId ? 1.0 : -1.0) * ((place + 1) / 2) * 2 * bow;
+  LinkLine line{begin, {}, end};
+  const double length = std::max(line.length(), 0.1);
+  line.bend = {(begin.x + end.x) / 2 - side * (end.y - begin.y) / length,
+               (begin.y + end.y) / 2 + side * (end.x - begin.x) / length};
+  unsigned level = 0;
+  while (level < numOfMapLevels && line.length() * pixelsPerUnit(level) < shortestArrowLink)
+    ++level;
+  const MapPoint middle = line.middle();
+  const std::string path = line.path(place == 0);
+  out_.write(fmt::format(
+      R"svg(<g data-key="{}" class="link kind-{}"><title>{}</title><path class="reach" d="{}"/><path class="line" d="{}"/>
+<g transform="translate({:.1f} {:.1f}) rotate({:.0f})"><path class="arrow from-{}" d="{}"/></g></g>
+)svg",
+      keyOf(link), link.getElementType()->id, titleOf(link), path, path, middle.x, middle.y, line.angle(), level,
+      arrowPath(link.getIsBidirectional())));
+}
+
+void Drawing::writeNode(const Node& node) {
+  const MapPoint point = *map_.find(&node);
+  const auto& kind = *node.getElementType();
+  out_.write(fmt::format(
+      R"svg(<g data-key="{}" class="node kind-{}" transform="translate({:.1f} {:.1f})"><title>{}</title>
+<path class="symbol" d="{}"/>)svg",
+      keyOf(node), kind.id, point.x, point.y, titleOf(node), lookOf(kind.type()).path));
+  const auto place = places_.find(&node);
+  if (place != places_.end())
+    out_.write(fmt::format(R"(<text class="label from-{}" x="{:.1f}" y="{:.1f}" text-anchor="{}">{}</text>)",
+                           place->second.level, place->second.x, place->second.y, place->second.anchor,
+                           htmlText(shortened(node.getName(), longestLabel))));
+  out_.write("</g>\n");
+}
+
+void Drawing::writeScaleBar() {
+  if (map_.kilometresPerUnit() <= 0.0)
+    return;
+  const double kilometres = usualScaleBar * map_.kilometresPerUnit();
+  const double decade = std::pow(10.0, std::floor(std::log10(kilometres)));
+  const double round = decade * (kilometres >= 5 * decade ? 5 : kilometres >= 2 * decade ? 2 : 1);
+  const double length = round / map_.kilometresPerUnit();
+  out_.write(fmt::format(R"svg(<g class="scale-bar" transform="translate(14 {:.1f})"><g class="fixed">
+<path d="M0-5V0H{:.1f}V-5"/><text x="{:.1f}" y="0">{} km</text></g></g>
+)svg",
+                         map_.height() - 12, length, length + 6, figureText(round)));
+}
+
+void Drawing::writeMissing(std::size_t links) {
+  if (map_.missing().empty() && links == 0)
+    return;
+  constexpr std::size_t named = 10;
+  const auto& missing = map_.missing();
+  std::string text = "Not on this map: ";
+  for (std::size_t index = 0; index < std::min(named, missing.size()); ++index)
+    text += (index == 0 ? "" : ", ") + missing[index]->getName() + " (" + std::to_string(missing[index]->bdId) + ")";
+  if (missing.size() > named)
+    text += fmt::format(" and {} more", missing.size() - named);
+  if (!missing.empty())
+    text += missing.size() == 1 ? ", without a position or far from all others"
+                                : ", all without a position or far from all others";
+  if (links != 0)
+    text += (missing.empty() ? "" : "; ") + counted(links, "link", "links") + " of which an end is not on it";
+  out_.write("<p class=\"remark\">" + htmlText(text) + ".</p>\n");
+}
+
+void Drawing::write() {
+  placeLabels();
+  out_.write(fmt::format(
+      R"svg(<svg class="network at-0 at-1 size-{:.0f}" viewBox="0 0 {:.0f} {:.0f}" role="img" aria-label="Map of the
+network: {}, {}. The tables of elements say the same in words." data-room="{:.4g}" data-kilometres="{:.6g}">
+<g class="world">
+)svg",
+      symbolScale(1.0, labels_.room()) * 10, map_.width, map_.height(), counted(network_.nodes.size(), "node", "nodes"),
+      counted(network_.links.size(), "link", "links"), labels_.room(), map_.kilometresPerUnit()));
+  std::size_t missingLinks = 0;
+  for (const auto& link : network_.links)
+    if (map_.find(link->upstream.lock().get()) && map_.find(link->downstream.lock().get()))
+      writeLink(*link);
+    else
+      ++missingLinks;
+  for (const auto& node : network_.nodes)
+    if (map_.find(node.get()))
+      writeNode(*node);
+  out_.write("</g>\n");
+  writeScaleBar();
+  out_.write("</svg>\n");
+  writeMissing(missingLinks);
+}
+
+} // namespace
+
+void writeNetworkDrawing(FileWriter& out, const Scenario& scenario, const Network& network) {
+  Drawing(out, scenario, network).write();
+}
+
+std::string keyOf(const Element& element) {
+  return (dynamic_cast<const Link*>(&element) != nullptr ? "link-" : "node-") + std::to_string(element.bdId);
+}
+
+} // namespace LagomareTools

@@ -1,0 +1,113 @@
+#include "tools/export/report/HtmlText.h"
+#include "tools/export/report/ReportParts.h"
+
+#include <algorithm>
+#include <array>
+#include <fmt/format.h>
+#include <map>
+
+namespace LagomareTools {
+
+namespace {
+
+constexpr std::size_t listed = 50; ///< faults of a code, at most
+
+struct SeverityWords {
+  const char* name; ///< also a class of the page's style
+  const char* plural;
+  const char* meaning;
+};
+
+const SeverityWords& wordsOf(Severity severity) {
+  static const std::array<SeverityWords, 3> words{
+      {{"error", "errors", "the project cannot be imported"},
+       {"warning", "warnings", "imported otherwise than it is meant, or not at all"},
+       {"note", "notes", "imported as it stands, and looks wrong"}}};
+  return words.at(static_cast<std::size_t>(severity));
+}
+
+using Faults = std::vector<const Fault*>;
+
+/// "rows-out-of-order" as "Rows out of order".
+std::string titleOf(std::string code) {
+  std::replace(code.begin(), code.end(), '-', ' ');
+  if (!code.empty() && code.front() >= 'a' && code.front() <= 'z')
+    code.front() = static_cast<char>(code.front() - 'a' + 'A');
+  return code;
+}
+
+std::string placeOf(const Fault& fault) {
+  std::string place = fault.table;
+  if (fault.row)
+    place += fault.rows == 1 ? fmt::format(", row {}", *fault.row)
+                             : fmt::format(", rows {} to {}", *fault.row, *fault.row + fault.rows - 1);
+  return place + (fault.column.empty() ? "" : ", column " + fault.column);
+}
+
+std::string elementOf(const Fault& fault) {
+  const std::string id = fault.id ? std::to_string(*fault.id) : "";
+  return fault.element.empty() || id.empty() ? fault.element + id : fault.element + " (" + id + ")";
+}
+
+void writeFault(FileWriter& out, const Fault& fault, bool saysRemedy) {
+  out.write(fmt::format("<tr><td>{}<td>{}<td>{}{}\n", htmlText(placeOf(fault)), htmlText(elementOf(fault)),
+                        htmlText(fault.message), saysRemedy ? " " + htmlText(fault.remedy) : ""));
+}
+
+void writeGroup(FileWriter& out, const Faults& faults) {
+  const Fault& first = *faults.front();
+  const SeverityWords& words = wordsOf(first.severity);
+  const bool isOneRemedy =
+      std::all_of(faults.begin(), faults.end(), [&first](const Fault* fault) { return fault->remedy == first.remedy; });
+  out.write(fmt::format("<details class=\"fault {}\"><summary><b>{}</b> <span>{}</span></summary>\n", words.name,
+                        htmlText(titleOf(first.code)), counted(faults.size(), words.name, words.plural)));
+  if (isOneRemedy && !first.remedy.empty())
+    out.write("<p>" + htmlText(first.remedy) + "</p>\n");
+  out.write("<table><thead><tr><th scope=\"col\">Place<th scope=\"col\">Element<th scope=\"col\">What it "
+            "is</thead>\n<tbody>");
+  for (std::size_t index = 0; index < std::min(faults.size(), listed); ++index)
+    writeFault(out, *faults[index], !isOneRemedy);
+  out.write("</tbody></table>\n");
+  if (faults.size() > listed)
+    out.write(fmt::format("<p>{} more: <code>lagomare check --all</code> lists them.</p>\n", faults.size() - listed));
+  out.write("</details>\n");
+}
+
+/// Grouped by severity and code, the worst first, the codes in the order in which they come.
+std::vector<Faults> groupsOf(const std::vector<Fault>& faults) {
+  std::vector<Faults> groups;
+  std::map<std::pair<Severity, std::string>, std::size_t> known;
+  for (const Fault& fault : faults) {
+    const auto [place, isNew] = known.try_emplace({fault.severity, fault.code}, groups.size());
+    if (isNew)
+      groups.emplace_back();
+    groups[place->second].push_back(&fault);
+  }
+  std::stable_sort(groups.begin(), groups.end(), [](const Faults& one, const Faults& other) {
+    return one.front()->severity < other.front()->severity;
+  });
+  return groups;
+}
+
+} // namespace
+
+void writeReportFaults(FileWriter& out, const ExportInput& input) {
+  if (!input.faults)
+    return out.write("<p class=\"verdict unknown\">The project was not checked for faults.</p>\n");
+  if (input.faults->empty())
+    return out.write("<p class=\"verdict good\">The check found no faults.</p>\n");
+  std::string counts;
+  for (const Severity severity : {Severity::error, Severity::warning, Severity::note}) {
+    const auto count = std::count_if(input.faults->begin(), input.faults->end(),
+                                     [severity](const Fault& fault) { return fault.severity == severity; });
+    const SeverityWords& words = wordsOf(severity);
+    if (count != 0)
+      counts += fmt::format("<li class=\"{}\"><b>{}</b> <span>{}</span></li>\n", words.name,
+                            counted(static_cast<std::size_t>(count), words.name, words.plural), words.meaning);
+  }
+  out.write("<ul class=\"verdict\">\n" + counts + "</ul>\n");
+  for (const Faults& group : groupsOf(*input.faults))
+    writeGroup(out, group);
+}
+
+} // namespace LagomareTools

@@ -1,0 +1,34 @@
+"use strict";
+// Starts the page.
+
+/** Chooses an element: by a row, the map, a link of a neighbour, or the address. */
+function choose(key) {
+  if (!elements.has(key))
+    return;
+  if (location.hash !== `#${key}`)
+    history.replaceState(null, "", `#${key}`);
+  tables.mark(key);
+  network.mark(key);
+  showChosen(key);
+  const chosen = document.getElementById("chosen");
+  const top = chosen.getBoundingClientRect().top;
+  if (top > innerHeight * 0.8) // else one would not see that something has changed
+    (matchMedia("(min-width: 1000px)").matches ? chosen.parentNode : chosen).scrollIntoView({ behavior: "smooth" });
+}
+
+(() => {
+  document.querySelector("#network .tools").hidden = false;
+  addEventListener("hashchange", () => choose(location.hash.slice(1)));
+  const paperWidth = 640; // pixels
+  addEventListener("beforeprint", () => plots.resize(paperWidth));
+  addEventListener("afterprint", () => plots.resize());
+  const key = location.hash.slice(1);
+  const first = data.elements.find((element) => element.series.length > 0) ?? data.elements[0];
+  if (elements.has(key))
+    choose(key);
+  else if (first) {
+    tables.mark(first.key);
+    network.mark(first.key);
+    showChosen(first.key);
+  }
+})();
