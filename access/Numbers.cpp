@@ -44,6 +44,7 @@ bool isHexadecimal(std::string_view digits) {
 struct Reading {
   double value;
   std::errc error; ///< of from_chars
+  const char* end; ///< of what was read
 };
 
 /// Digits with at most one point among them, 15 at most, as nearly all values are written. Both the digits as an
@@ -79,21 +80,27 @@ Reading readMagnitude(std::string_view digits) {
   const char* const begin = digits.data() + (isHex ? 2 : 0);
   const char* const end = digits.data() + digits.size();
   if (begin != end && *begin == '-') // a second sign
-    return {0.0, std::errc::invalid_argument};
+    return {0.0, std::errc::invalid_argument, begin};
   double magnitude = 0.0;
   const auto format = isHex ? std::chars_format::hex : std::chars_format::general;
-  const std::errc error = std::from_chars(begin, end, magnitude, format).ec;
+  const auto [last, error] = std::from_chars(begin, end, magnitude, format);
   if (error == std::errc() && isTooSmall(magnitude))
-    return {0.0, std::errc::result_out_of_range};
-  return {magnitude, error};
+    return {0.0, std::errc::result_out_of_range, last};
+  return {magnitude, error, last};
 }
 
 Reading readNumber(std::string_view text) {
   if (const auto plain = readPlainDecimal(text))
-    return {*plain, {}};
+    return {*plain, {}, text.data() + text.size()};
   const SignAndDigits number(text);
-  const Reading magnitude = readMagnitude(number.digits);
-  return {number.isNegative ? -magnitude.value : magnitude.value, magnitude.error};
+  Reading reading = readMagnitude(number.digits);
+  if (number.isNegative)
+    reading.value = -reading.value;
+  return reading;
+}
+
+std::from_chars_result readDigits(std::string_view digits, std::uint32_t& magnitude) {
+  return std::from_chars(digits.data(), digits.data() + digits.size(), magnitude);
 }
 
 [[noreturn]] void throwError(std::errc error, const char* conversion, std::string_view text) {
@@ -117,11 +124,16 @@ Integer truncate(std::string_view text) {
 std::uint32_t toUnsigned(std::string_view text) {
   const SignAndDigits number(text);
   std::uint32_t magnitude = 0;
-  const char* const end = number.digits.data() + number.digits.size();
-  const std::errc error = std::from_chars(number.digits.data(), end, magnitude).ec;
+  const std::errc error = readDigits(number.digits, magnitude).ec;
   if (error != std::errc())
     throwError(error, unsignedConversion, text);
   return number.isNegative ? 0U - magnitude : magnitude;
+}
+
+std::size_t lengthOfUnsigned(std::string_view text) {
+  std::uint32_t magnitude = 0;
+  const auto [end, error] = readDigits(SignAndDigits(text).digits, magnitude);
+  return error == std::errc() ? static_cast<std::size_t>(end - text.data()) : 0;
 }
 
 double toDouble(std::string_view text) {
@@ -134,6 +146,13 @@ double toDouble(std::string_view text) {
 std::optional<double> readDouble(std::string_view text) {
   const Reading reading = readNumber(text);
   return reading.error == std::errc() ? std::optional(reading.value) : std::nullopt;
+}
+
+std::optional<NumberInText> findDouble(std::string_view text) {
+  const Reading reading = readNumber(text);
+  if (reading.error != std::errc())
+    return std::nullopt;
+  return NumberInText{reading.value, static_cast<std::size_t>(reading.end - text.data())};
 }
 
 std::int32_t toTruncatedInt(std::string_view text) { return truncate<std::int32_t>(text); }

@@ -2,6 +2,7 @@
 
 #include "lagomare_export.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -22,6 +23,16 @@ namespace Lagomare {
 [[nodiscard]] LAGOMARE_EXPORT double toDouble(std::string_view text);
 /// The same number; nothing where toDouble throws.
 [[nodiscard]] LAGOMARE_EXPORT std::optional<double> readDouble(std::string_view text);
+
+/// A number, and how much of its text it takes: the conversions ignore what follows.
+struct NumberInText {
+  double value;
+  std::size_t length; ///< characters from the text's first one on, leading white space included
+};
+/// What toDouble reads; nothing where it throws.
+[[nodiscard]] LAGOMARE_EXPORT std::optional<NumberInText> findDouble(std::string_view text);
+/// How many characters toUnsigned takes; 0 where it throws.
+[[nodiscard]] LAGOMARE_EXPORT std::size_t lengthOfUnsigned(std::string_view text);
 
 /// toDouble, truncated toward zero; FieldOutOfRange "stod" where the result does not fit.
 [[nodiscard]] LAGOMARE_EXPORT std::int32_t toTruncatedInt(std::string_view text);

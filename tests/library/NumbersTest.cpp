@@ -46,9 +46,24 @@ double standardDouble(const std::string& text) {
   return number != 0.0 && std::fabs(number) < DBL_MIN ? throw std::out_of_range("stod") : number;
 }
 
+/// How many characters a standard conversion takes; 0 where it throws, or where its number does not fit here.
+template <typename Convert>
+std::size_t standardLength(Convert convert, bool isRead, const std::string& text) {
+  std::size_t length = 0;
+  if (isRead)
+    static_cast<void>(convert(text, &length));
+  return length;
+}
+
 void expectStandard(const std::string& text) {
   EXPECT_EQ(outcomeOf(toUnsigned, text), outcomeOf(standardUnsigned, text)) << '"' << text << '"';
   EXPECT_EQ(outcomeOf(toDouble, text), outcomeOf(standardDouble, text)) << '"' << text << '"';
+  const auto found = findDouble(text);
+  const std::size_t length = lengthOfUnsigned(text);
+  const auto stod = [](const std::string& number, std::size_t* end) { return std::stod(number, end); };
+  const auto stoul = [](const std::string& number, std::size_t* end) { return std::stoul(number, end); };
+  EXPECT_EQ(found ? found->length : 0, standardLength(stod, found.has_value(), text)) << '"' << text << '"';
+  EXPECT_EQ(length, standardLength(stoul, length != 0, text)) << '"' << text << '"';
 }
 
 /// Mostly something like a number.
