@@ -12,7 +12,7 @@ namespace Lagomare {
 
 /// Throws std::length_error where the series of so many elements of a kind, over the scenario's interval and for
 /// demands and reservoirs in each hydrological state too, cannot be meant: more than 2^30 values (8 GiB).
-void requireReasonableSize(std::size_t elements, ElementType kind, const Scenario& scenario);
+LAGOMARE_EXPORT void requireReasonableSize(std::size_t elements, ElementType kind, const Scenario& scenario);
 
 /// Loads the elements of each kind in turn, under one progress bar, with the ids and the loaders that a dialect's two
 /// factories make. All ids are asked for before the first loader runs. False where the host asked to stop: the loaders

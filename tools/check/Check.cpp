@@ -1,0 +1,103 @@
+#include "tools/check/Check.h"
+
+#include "loader/common/ElementLoop.h"
+#include "model/ExecutionContinuous.h"
+#include "model/PriorityScenario.h"
+#include "tools/check/Rules.h"
+
+#include <algorithm>
+#include <array>
+#include <fmt/format.h>
+#include <stdexcept>
+
+namespace LagomareTools {
+
+namespace {
+
+constexpr std::array<std::pair<Kind, ElementType>, 4> elementTypes{{{Kind::reservoir, ElementType::Reservoir},
+                                                                    {Kind::demand, ElementType::HumanDemand},
+                                                                    {Kind::junction, ElementType::Junction},
+                                                                    {Kind::link, ElementType::NaturalLink}}};
+
+/// An empty scenario that is as large as the settings say.
+PriorityScenario makeScenario(const Settings& settings) {
+  PriorityScenario scenario(std::make_shared<ExecutionContinuous>(), 0, *settings.interval, "");
+  if (settings.numOfStates > 0)
+    scenario.getHydrologicalStateConfiguration()->setXValues(std::vector<double>(settings.numOfStates - 1U));
+  return scenario;
+}
+
+/// The import's own limit.
+void checkSize(Inspection& inspection) {
+  if (!inspection.settings.interval)
+    return;
+  const PriorityScenario scenario = makeScenario(inspection.settings);
+  for (const auto& [kind, type] : elementTypes) {
+    const auto isOfKind = [kind = kind](const auto& entry) { return entry.second.kind == kind; };
+    const auto& [nodes, links] = std::tie(inspection.elements.nodes, inspection.elements.links);
+    const auto count = std::count_if(nodes.begin(), nodes.end(), isOfKind) +
+                       std::count_if(links.begin(), links.end(), isOfKind);
+    try {
+      Lagomare::requireReasonableSize(static_cast<std::size_t>(count), type, scenario);
+    } catch (const std::length_error&) {
+      inspection.findings.add(
+          Code::tooManyValues, Place{inspection.schema.tables.front().name},
+          [&, kind = kind] {
+            return fmt::format("{} elements of the kind {} in {} hydrological states", count, nameOf(kind),
+                               inspection.settings.numOfStates);
+          },
+          static_cast<std::size_t>(kind));
+    }
+  }
+}
+
+bool isWithoutNodes(const Inspection& inspection, const Table& table) {
+  return inspection.schema.needsNodesForFlows && table.layout == Layout::period && inspection.elements.areNodesKnown &&
+         inspection.elements.nodes.empty();
+}
+
+void checkTable(Inspection& inspection, const Table& table) {
+  switch (table.layout) {
+  case Layout::settings:
+    return checkSettings(inspection);
+  case Layout::boundaries:
+    return checkBoundaries(inspection, table);
+  case Layout::nodes:
+    return checkNodes(inspection, table);
+  case Layout::links:
+    checkLinks(inspection, table);
+    return checkSize(inspection);
+  default:
+    if (isWithoutNodes(inspection, table))
+      reportNotRead(inspection, table, "the project has no node, and flows are only read for nodes");
+    else
+      checkOwnedRows(inspection, table);
+  }
+}
+
+CheckResult resultOf(Inspection& inspection) {
+  CheckResult result{inspection.dialect, inspection.prospect, inspection.findings.sorted(),
+                     std::move(inspection.counts), std::nullopt};
+  if (inspection.listing)
+    result.notRead = findNotRead(*inspection.listing, inspection.schema);
+  if (result.prospect == Prospect::imported && result.count(Severity::error) > 0)
+    result.prospect = Prospect::failed;
+  return result;
+}
+
+} // namespace
+
+std::optional<CheckResult> checkProject(Lagomare::QuerySource& source, Dialect dialect, const CheckProgress& progress) {
+  const Schema& schema = schemaOf(dialect);
+  Inspection inspection{source, dialect, schema, listTables(source), {}, {}, {}, {}, {}};
+  std::size_t tablesDone = 0;
+  for (const Table& table : schema.tables) {
+    if (progress && !progress(tablesDone++, schema.tables.size()))
+      return std::nullopt;
+    checkTable(inspection, table);
+  }
+  checkNetwork(inspection);
+  return resultOf(inspection);
+}
+
+} // namespace LagomareTools

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/Interval.h"
+#include "tools/check/CheckResult.h"
+#include "tools/check/Elements.h"
+#include "tools/check/Findings.h"
+
+namespace LagomareTools {
+
+/// What the general settings and the boundaries say.
+struct Settings {
+  std::optional<Interval> interval; ///< nothing where they do not tell it; never empty
+  bool askForStates = false;
+  unsigned numOfStates = 0; ///< 0 where they are not asked for
+};
+
+/// A check on its way through the tables: what the rules share.
+struct Inspection {
+  Lagomare::QuerySource& source;
+  Dialect dialect;
+  const Schema& schema;
+  std::optional<Listing> listing;
+  Prospect prospect = Prospect::imported;
+  Settings settings;
+  Elements elements;
+  Findings findings;
+  std::vector<TableCount> counts;
+};
+
+/// The row that made an element.
+[[nodiscard]] inline Place placeOf(const ElementRow& element, std::uint32_t id) {
+  return {element.table, element.row, id, element.name};
+}
+
+} // namespace LagomareTools

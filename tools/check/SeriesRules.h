@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/check/Inspection.h"
+
+namespace LagomareTools {
+
+/// A table of series: one row per month of the period, or twelve that repeat every year.
+void checkSeries(Inspection& inspection, const Table& table);
+
+} // namespace LagomareTools
