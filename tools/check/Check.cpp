@@ -4,6 +4,7 @@
 #include "model/ExecutionContinuous.h"
 #include "model/PriorityScenario.h"
 #include "tools/check/Rules.h"
+#include "tools/check/TableRows.h"
 
 #include <algorithm>
 #include <array>
@@ -20,10 +21,11 @@ constexpr std::array<std::pair<Kind, ElementType>, 4> elementTypes{{{Kind::reser
                                                                     {Kind::link, ElementType::NaturalLink}}};
 
 /// An empty scenario that is as large as the settings say.
-PriorityScenario makeScenario(const Settings& settings) {
-  PriorityScenario scenario(std::make_shared<ExecutionContinuous>(), 0, *settings.interval, "");
+std::shared_ptr<PriorityScenario> makeScenario(const Settings& settings) {
+  auto scenario =
+      std::make_shared<PriorityScenario>(std::make_shared<ExecutionContinuous>(), 0, *settings.interval, "");
   if (settings.numOfStates > 0)
-    scenario.getHydrologicalStateConfiguration()->setXValues(std::vector<double>(settings.numOfStates - 1U));
+    scenario->getHydrologicalStateConfiguration()->setXValues(std::vector<double>(settings.numOfStates - 1U));
   return scenario;
 }
 
@@ -31,14 +33,14 @@ PriorityScenario makeScenario(const Settings& settings) {
 void checkSize(Inspection& inspection) {
   if (!inspection.settings.interval)
     return;
-  const PriorityScenario scenario = makeScenario(inspection.settings);
+  const auto scenario = makeScenario(inspection.settings);
   for (const auto& [kind, type] : elementTypes) {
     const auto isOfKind = [kind = kind](const auto& entry) { return entry.second.kind == kind; };
     const auto& [nodes, links] = std::tie(inspection.elements.nodes, inspection.elements.links);
-    const auto count = std::count_if(nodes.begin(), nodes.end(), isOfKind) +
-                       std::count_if(links.begin(), links.end(), isOfKind);
+    const auto count =
+        std::count_if(nodes.begin(), nodes.end(), isOfKind) + std::count_if(links.begin(), links.end(), isOfKind);
     try {
-      Lagomare::requireReasonableSize(static_cast<std::size_t>(count), type, scenario);
+      Lagomare::requireReasonableSize(static_cast<std::size_t>(count), type, *scenario);
     } catch (const std::length_error&) {
       inspection.findings.add(
           Code::tooManyValues, Place{inspection.schema.tables.front().name},
@@ -87,13 +89,13 @@ CheckResult resultOf(Inspection& inspection) {
 
 } // namespace
 
-std::optional<CheckResult> checkProject(Lagomare::QuerySource& source, Dialect dialect, const CheckProgress& progress) {
+CheckResult checkProject(Lagomare::QuerySource& source, Dialect dialect, const CheckProgress& progress) {
   const Schema& schema = schemaOf(dialect);
   Inspection inspection{source, dialect, schema, listTables(source), {}, {}, {}, {}, {}};
   std::size_t tablesDone = 0;
   for (const Table& table : schema.tables) {
-    if (progress && !progress(tablesDone++, schema.tables.size()))
-      return std::nullopt;
+    if (progress)
+      progress(tablesDone++, schema.tables.size());
     checkTable(inspection, table);
   }
   checkNetwork(inspection);

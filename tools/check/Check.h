@@ -6,14 +6,13 @@
 
 namespace LagomareTools {
 
-/// Is told how many tables are read and how many there are; false asks to stop.
-using CheckProgress = std::function<bool(std::size_t, std::size_t)>;
+/// Is told how many tables are read and how many there are.
+using CheckProgress = std::function<void(std::size_t, std::size_t)>;
 
 /// Looks for every fault of a project in one pass: reads each table of the dialect once, row by row. What it remembers
 /// grows with the elements and with the faults, not with the rows. A query that is refused (QueryRefused) is a fault;
-/// any other exception of the source passes through. Nothing where the progress asks to stop. Positions are judged by the
-/// UTM zone of TeluUtmDegreeConversion.
-[[nodiscard]] std::optional<CheckResult> checkProject(Lagomare::QuerySource& source, Dialect dialect,
-                                                      const CheckProgress& progress = {});
+/// any other exception of the source passes through. Positions are judged by the UTM zone of TeluUtmDegreeConversion.
+[[nodiscard]] CheckResult checkProject(Lagomare::QuerySource& source, Dialect dialect,
+                                       const CheckProgress& progress = {});
 
 } // namespace LagomareTools

@@ -6,8 +6,8 @@
 namespace LagomareTools {
 
 std::size_t CheckResult::count(Severity severity) const {
-  return static_cast<std::size_t>(
-      std::count_if(faults.begin(), faults.end(), [severity](const Fault& fault) { return fault.severity == severity; }));
+  return static_cast<std::size_t>(std::count_if(faults.begin(), faults.end(),
+                                                [severity](const Fault& fault) { return fault.severity == severity; }));
 }
 
 std::size_t CheckResult::numOfRowsNotTaken() const {

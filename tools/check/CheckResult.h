@@ -18,9 +18,9 @@ enum class Prospect { imported, failed, refused, invalid };
 /// What a check found.
 struct CheckResult {
   Dialect dialect;
-  Prospect prospect = Prospect::imported; ///< refused and invalid: the import says so by its status
-  std::vector<Fault> faults;              ///< errors first; those of one code together
-  std::vector<TableCount> tables;         ///< those that could be read
+  Prospect prospect = Prospect::imported;      ///< refused and invalid: the import says so by its status
+  std::vector<Fault> faults;                   ///< errors first; those of one code together
+  std::vector<TableCount> tables;              ///< those that could be read
   std::optional<std::vector<NotRead>> notRead; ///< nothing where the database cannot be listed
 
   [[nodiscard]] std::size_t count(Severity severity) const;

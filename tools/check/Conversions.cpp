@@ -59,9 +59,9 @@ auto convert(TableRows& rows, std::size_t column, Code ifNone, Code ifTooLarge, 
     return std::nullopt;
   try {
     return convert(*text);
-  } catch (const FieldOutOfRange&) {
+  } catch (const Lagomare::FieldOutOfRange&) {
     reportNone(rows, column, *text, ifTooLarge, wanted);
-  } catch (const InvalidField&) {
+  } catch (const Lagomare::InvalidField&) {
     reportNone(rows, column, *text, ifNone, wanted);
   }
   return std::nullopt;
@@ -88,8 +88,8 @@ std::optional<std::uint32_t> readId(TableRows& rows) {
 }
 
 std::optional<std::uint32_t> readWhole(TableRows& rows, std::size_t column) {
-  const auto number = convert(rows, column, Code::notANumber, Code::numberOutOfRange, "a whole number from 0 on",
-                              Lagomare::toUnsigned);
+  const auto number =
+      convert(rows, column, Code::notANumber, Code::numberOutOfRange, "a whole number from 0 on", Lagomare::toUnsigned);
   if (number)
     reportCut(rows, column, *rows.at(column), Lagomare::lengthOfUnsigned(*rows.at(column)), true);
   return number;

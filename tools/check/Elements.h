@@ -22,8 +22,8 @@ struct NodeRow : ElementRow {
 };
 
 struct LinkRow : ElementRow {
-  std::optional<std::uint32_t> upstream;
-  std::optional<std::uint32_t> downstream;
+  std::optional<std::uint32_t> upstream{};
+  std::optional<std::uint32_t> downstream{};
   bool isPartner = false; ///< goes into the opposite link, which stays
 };
 

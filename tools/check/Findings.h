@@ -26,8 +26,8 @@ class Findings {
 public:
   static constexpr std::size_t mostOfACode = 10000;
 
-  /// makeMessage() returns the fault's message, without a full stop at its end; it is called only for the first row of a
-  /// fault. `part` tells faults apart that else are the same.
+  /// makeMessage() returns the fault's message, without a full stop at its end; it is called only for the first row of
+  /// a fault. `part` tells faults apart that else are the same.
   template <typename MakeMessage>
   void add(Code code, const Place& place, MakeMessage makeMessage, std::size_t part = 0) {
     if (Fault* const fault = faultOf(code, place, part))

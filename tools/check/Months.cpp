@@ -57,8 +57,7 @@ Months::Months(const TableRows& rows, const std::optional<Interval>& interval)
     : rows_(rows), date_(rows.table().columnOf(Type::date)), year_(rows.table().columnOf(Type::year)),
       month_(rows.table().columnOf(Type::month)), isOfPeriod_(rows.table().layout == Layout::period),
       areTold_(rows.has(date_) || (rows.has(month_) && (!isOfPeriod_ || rows.has(year_)))),
-      areKnown_(areTold_ && (!isOfPeriod_ || interval)),
-      numOfRows_(isOfPeriod_ ? noLimit : monthsPerYear) {
+      areKnown_(areTold_ && (!isOfPeriod_ || interval)), numOfRows_(isOfPeriod_ ? noLimit : monthsPerYear) {
   if (!isOfPeriod_ || !interval)
     return;
   const Date& begin = interval->getBegin();

@@ -7,8 +7,8 @@
 
 namespace LagomareTools {
 
-/// The rows of a table whose first column names an element: sorts out the rows that the import does not ask for or whose
-/// id it does not know, and gives the others to the rules of a layout.
+/// The rows of a table whose first column names an element: sorts out the rows that the import does not ask for or
+/// whose id it does not know, and gives the others to the rules of a layout.
 class OwnedRows {
 public:
   OwnedRows(Inspection& inspection, const Table& table);

@@ -40,10 +40,12 @@ constexpr std::array<Rule, numOfCodes> rules{{
      "holds.",
      "Write the id of an element, or remove the row."},
     {Code::idColumnMoved, "id-column-moved", error, false,
-     "The import finds the elements of a table by the name of its id column and reads them by the first column, but the "
+     "The import finds the elements of a table by the name of its id column and reads them by the first column, but "
+     "the "
      "id column is not the first one.",
      "Put the columns into the order of the dialect."},
-    {Code::notANumber, "not-a-number", error, false, "A field that the import reads as a number is empty or holds none.",
+    {Code::notANumber, "not-a-number", error, false,
+     "A field that the import reads as a number is empty or holds none.",
      "Write a number, with a decimal point and without a unit."},
     {Code::numberOutOfRange, "number-out-of-range", error, false,
      "A number is too large or too small: whole numbers go from 0 to 4294967295, others have double precision.",
@@ -62,7 +64,8 @@ constexpr std::array<Rule, numOfCodes> rules{{
      "Correct the id, or remove the row."},
 
     {Code::furtherSettingsRows, "further-settings-rows", warning, notTaken,
-     "The table of general settings has more than one row. The import takes the one whose first column, as a number, is "
+     "The table of general settings has more than one row. The import takes the one whose first column, as a number, "
+     "is "
      "the smallest; of a date that is the day of the month.",
      "Keep the one row that is meant."},
     {Code::tableNotRead, "table-not-read", warning, notTaken,
@@ -85,7 +88,8 @@ constexpr std::array<Rule, numOfCodes> rules{{
      "A table of twelve months has more than twelve rows of an id. The first twelve count; they repeat every year.",
      "Keep twelve rows, January first."},
     {Code::stateNotRead, "state-not-read", warning, notTaken,
-     "A row belongs to a hydrological state that the project does not have, or to none. n boundaries make n + 1 states; "
+     "A row belongs to a hydrological state that the project does not have, or to none. n boundaries make n + 1 "
+     "states; "
      "a project that does not ask for states reads only the rows of state 1.",
      "Correct the state, the table of boundaries, or the switch of the states in the general settings."},
     {Code::limitOfOtherState, "limit-of-other-state", warning, notTaken,
@@ -134,11 +138,12 @@ constexpr std::array<Rule, numOfCodes> rules{{
      "A demand is at least 1000 m³/s in every month, so the import makes a drain of it and drops this demand.",
      "Nothing, if it is one. Otherwise correct the demand."},
     {Code::missingValueMark, "missing-value-mark", note, false,
-     "A value looks like a mark for a missing one, such as -999, -9999 or 1e30, or it is not finite. The import takes it "
+     "A value looks like a mark for a missing one, such as -999, -9999 or 1e30, or it is not finite. The import takes "
+     "it "
      "for a number.",
      "Write a value."},
-    {Code::negativeValue, "negative-value", note, false,
-     "A flow, demand, limit, area or volume is negative.", "Correct the value."},
+    {Code::negativeValue, "negative-value", note, false, "A flow, demand, limit, area or volume is negative.",
+     "Correct the value."},
     {Code::fractionOutside, "fraction-outside", note, false,
      "A fraction lies outside 0 to 1: a loss, a target volume, or a boundary between hydrological states.",
      "Write a fraction, not a percentage."},

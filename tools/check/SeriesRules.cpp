@@ -179,9 +179,8 @@ std::string SeriesRules::whatIsOff(const Series& series) const {
     return "the series begins with it";
   if (*series.toldBefore == series.firstTold)
     return "the row before says the same";
-  return series.firstTold < *series.toldBefore
-             ? "it steps back behind " + months_.textOf(*series.toldBefore)
-             : "there is a gap behind " + months_.textOf(*series.toldBefore);
+  return series.firstTold < *series.toldBefore ? "it steps back behind " + months_.textOf(*series.toldBefore)
+                                               : "there is a gap behind " + months_.textOf(*series.toldBefore);
 }
 
 void SeriesRules::reportOrder(const Slot& slot) {
@@ -193,8 +192,8 @@ void SeriesRules::reportOrder(const Slot& slot) {
       Code::rowsOutOfOrder, place,
       [&] {
         return "row " + std::to_string(series.firstOffRow) + " says " + months_.textOf(series.firstTold) +
-               " and comes in as " + months_.textOf(months_.expected(series.firstOffIndex)) + ": " +
-               whatIsOff(series) + (slot.state > 0 ? " (state " + std::to_string(slot.state) + ")" : "");
+               " and comes in as " + months_.textOf(months_.expected(series.firstOffIndex)) + ": " + whatIsOff(series) +
+               (slot.state > 0 ? " (state " + std::to_string(slot.state) + ")" : "");
       },
       slot.state);
 }

@@ -118,7 +118,8 @@ bool TableRows::findColumnsByPosition(const ListedTable& listed) {
   return isFirstTheId;
 }
 
-/// Asks with the columns that only tell what a row is meant to be, else, where the database is not listed, without them.
+/// Asks with the columns that only tell what a row is meant to be, else, where the database is not listed, without
+/// them.
 void TableRows::open() {
   std::string refusal;
   if (!ask(true, refusal) && (inspection_.listing || table_.isReadWhole || !ask(false, refusal))) {

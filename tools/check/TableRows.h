@@ -5,8 +5,8 @@
 
 namespace LagomareTools {
 
-/// The rows of a table on their way through the rules: reads them, counts them, and says where a fault lies. Columns are
-/// counted as in the description of the table, from 0.
+/// The rows of a table on their way through the rules: reads them, counts them, and says where a fault lies. Columns
+/// are counted as in the description of the table, from 0.
 class TableRows {
 public:
   /// Asks for the table. Where that fails the reason is among the findings, and there are no rows. Both must outlive
@@ -57,7 +57,7 @@ private:
 
   Inspection& inspection_;
   const Table& table_;
-  TableCount* count_ = nullptr; ///< the last one of the inspection
+  TableCount* count_ = nullptr;                    ///< the last one of the inspection
   std::vector<std::optional<std::size_t>> places_; ///< of each column among the fields
   std::optional<RowReader> reader_;
   bool isRead_ = false;

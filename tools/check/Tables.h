@@ -21,22 +21,43 @@ enum class Type {
   text,        ///< taken as it stands
   wholeNumber, ///< unsigned, 32 bits; switches too
   number,
-  priority,          ///< number, truncated
-  code,              ///< the kind of node; compared by the database
-  state,             ///< the hydrological state; compared by the database
-  date, year, month, ///< tell what a row is meant to be; the import does not look at them
-  unread             ///< neither
+  priority, ///< number, truncated
+  code,     ///< the kind of node; compared by the database
+  state,    ///< the hydrological state; compared by the database
+  date,
+  year,
+  month, ///< tell what a row is meant to be; the import does not look at them
+  unread ///< neither
 };
 
 /// What a column holds. Numbers have the units of the scenario unless told.
 enum class Meaning {
   none,
-  start, startYear, startMonth, durationYears, statesSwitch, tacticalFlag, boundary,
-  easting, northing,    ///< UTM, m
-  upstream, downstream, ///< ids of nodes
-  maximumVolume, minimumVolume, initialVolume, systemFlag,
-  level, area, volume,
-  naturalFlow, demand, target, netEvaporation, priority, flowLimit, loss
+  start,
+  startYear,
+  startMonth,
+  durationYears,
+  statesSwitch,
+  tacticalFlag,
+  boundary,
+  easting,
+  northing, ///< UTM, m
+  upstream,
+  downstream, ///< ids of nodes
+  maximumVolume,
+  minimumVolume,
+  initialVolume,
+  systemFlag,
+  level,
+  area,
+  volume,
+  naturalFlow,
+  demand,
+  target,
+  netEvaporation,
+  priority,
+  flowLimit,
+  loss
 };
 
 struct Column {
@@ -56,7 +77,7 @@ enum class Layout {
   points,       ///< all rows of an id, in stored order
   twelveMonths, ///< row i of an id is month i of every year, whatever its month says: rows 1 to 12
   period,       ///< row i of an id is month i of the period, whatever its date says
-  priorities    ///< of the rows of state 1 the first is the general priority; with states, row i of all is that of state i
+  priorities ///< of the rows of state 1 the first is the general priority; with states, row i of all is that of state i
 };
 
 /// A table of a dialect. Texts are static.

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/check/CheckResult.h"
+
+namespace LagomareTools {
+
+/// What a check found, as docs/check.schema.json describes it; ends with a line feed. `project` as for textOf().
+[[nodiscard]] std::string jsonOf(const CheckResult& result, const std::string& project);
+
+} // namespace LagomareTools
