@@ -1,14 +1,12 @@
 #include "tools/cli/ImportCommand.h"
 
-#include "model/TeluUtmDegreeConversion.h"
 #include "tools/cli/Outputs.h"
 #include "tools/cli/Progress.h"
 #include "tools/cli/Summary.h"
-#include "tools/project/ImportRun.h"
+#include "tools/project/Import.h"
 #include "tools/system/Failure.h"
-
-#include <cstdio>
-#include <unistd.h>
+#include "tools/system/Interruption.h"
+#include "tools/system/StandardStreams.h"
 
 namespace LagomareTools {
 
@@ -18,15 +16,9 @@ constexpr int success = 0;
 constexpr int refused = 3;
 constexpr int invalid = 4;
 
-int cancelled() {
-  std::fputs("lagomare: cancelled; the outputs are as they were\n", stderr);
-  return Interruption::exitCode;
-}
-
-void printSummary(const ExportInput& input) {
-  FileWriter out(STDOUT_FILENO, "standard output");
-  out.write(summaryOf(input));
-  out.flush();
+Imported importWithProgress(const Project& project, bool isQuiet) {
+  Progress progress(!isQuiet);
+  return importScenario(project, [&progress](long done, long inAll) { progress.show(done, inAll); });
 }
 
 int exitCodeOf(const Imported& imported, const std::string& project) {
@@ -43,25 +35,24 @@ int exitCodeOf(const Imported& imported, const std::string& project) {
 
 } // namespace
 
-int importProject(const ImportOptions& options, const std::string& calledAs) {
-  Interruption interruption;
-  const Inputs inputs = findInputs(options.project, calledAs);
-  Outputs outputs(options, inputs);
-  const UtmZone zone = options.project.utmZone.value_or(usualZone);
-  TeluUtmDegreeConversion::setZone(zone.number, zone.hemisphere);
-  auto imported = [&] {
-    Progress progress(!options.isQuiet);
-    return runImport(options.project, inputs, interruption, [&](long done, long inAll) { progress.show(done, inAll); });
-  }();
-  if (!imported || !interruption.endImport())
-    return cancelled();
-  const ExportInput input{*imported, options.project.project, zone, !options.project.utmZone, options.csvFormat, {}};
+int importProject(const ImportOptions& options) {
+  Outputs outputs(options, ProjectFiles(options.project));
+  const Project project(options.project);
+  if (const auto lock = project.lockFile(); !lock.empty())
+    printWarning(project.name() + ": another program may have it open: its lock file " + lock.filename().u8string() +
+                 " stands beside it");
+  const ExportInput input{importWithProgress(project, options.isQuiet),
+                          project.name(),
+                          project.utmZone(),
+                          project.isZoneAssumed(),
+                          options.csvFormat,
+                          {}};
   outputs.write(input);
   if (!options.isQuiet && !outputs.takeStandardOutput())
-    printSummary(input);
-  interruption.endAll();
+    writeToStandardOutput(summaryOf(input));
+  Interruption::throwIfRequested();
   outputs.commit();
-  return exitCodeOf(*imported, options.project.project);
+  return exitCodeOf(input.imported, project.name());
 }
 
 } // namespace LagomareTools

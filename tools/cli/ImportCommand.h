@@ -5,7 +5,7 @@
 namespace LagomareTools {
 
 /// `lagomare import`: imports one project, writes the outputs, tells what was found. Returns the exit code. Throws
-/// Failure and UsageError, the outputs being as they were.
-[[nodiscard]] int importProject(const ImportOptions& options, const std::string& calledAs);
+/// Failure, UsageError and Interrupted; the outputs are then as they were before.
+[[nodiscard]] int importProject(const ImportOptions& options);
 
 } // namespace LagomareTools

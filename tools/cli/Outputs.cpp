@@ -24,14 +24,14 @@ bool isOneFile(const fs::path& one, const fs::path& other) {
 }
 
 std::string nameOf(const OutputRequest& request, const OutputPart& part) {
-  return *part.fileName == '\0' ? request.name : (fs::path(request.name) / part.fileName).string();
+  return *part.fileName == '\0' ? request.name : (fs::u8path(request.name) / part.fileName).u8string();
 }
 
 /// Each file once: writing one over another, or over what is read, would destroy it.
-void requireDifferentFiles(const ImportOptions& options, const Inputs& inputs) {
-  std::vector<NamedFile> files{{"the project", inputs.project}, {"the query executable", inputs.executable}};
+void requireDifferentFiles(const ImportOptions& options, const ProjectFiles& read) {
+  std::vector<NamedFile> files{{"the project", read.project}, {"the query executable", read.queryExecutable}};
   const auto add = [&files](const char* word, const std::string& name) {
-    NamedFile added{word, placeOf(name)};
+    NamedFile added{word, resolved(name)};
     for (const NamedFile& file : files)
       if (isOneFile(file.file, added.file))
         throw UsageError(std::string(file.word) + " and " + word + " are the same file, " + name);
@@ -53,22 +53,25 @@ void requireReady(const std::vector<OutputRequest>& requests) {
 
 OutputFolder::OutputFolder(const std::string& name) {
   std::error_code error;
-  const fs::path folder = fs::absolute(name, error);
+  const fs::path folder = fs::absolute(fs::u8path(name), error);
   if (fs::create_directory(folder, error))
-    leftover_.emplace([folder] {
-      std::error_code notEmpty;
-      fs::remove(folder, notEmpty);
-    });
-  else if (error) // none where it is there already
-    throw Failure("cannot make the folder " + name + ": " +
-                  (error == std::errc::no_such_file_or_directory ? "the folder that it would stand in is not there"
-                                                                 : error.message()));
+    made_ = folder;
+  else if (error) // none if it is there already
+    throw Failure(
+        "cannot make the folder " + name + ": " +
+        (error == std::errc::no_such_file_or_directory ? "its parent folder does not exist" : error.message()));
 }
 
-Outputs::Outputs(const ImportOptions& options, const Inputs& inputs)
+OutputFolder::~OutputFolder() {
+  std::error_code isNotEmpty;
+  if (!made_.empty())
+    fs::remove(made_, isNotEmpty);
+}
+
+Outputs::Outputs(const ImportOptions& options, const ProjectFiles& files)
     : takesStandardOutput_(std::any_of(options.outputs.begin(), options.outputs.end(), isStandardOutput)) {
   requireReady(options.outputs);
-  requireDifferentFiles(options, inputs);
+  requireDifferentFiles(options, files);
   for (const OutputRequest& request : options.outputs)
     open(request);
 }

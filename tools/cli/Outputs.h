@@ -1,21 +1,25 @@
 #pragma once
 
 #include "tools/cli/Options.h"
-#include "tools/project/Inputs.h"
+#include "tools/project/ProjectFiles.h"
 #include "tools/system/OutputFile.h"
 
 #include <list>
+#include <string>
 
 namespace LagomareTools {
 
-/// A folder for outputs; made where it is missing, and then removed again unless something was put into it.
+/// A folder for outputs. Made if it is missing, and then removed again if nothing was put into it.
 class OutputFolder {
 public:
   /// Throws Failure.
   explicit OutputFolder(const std::string& name);
+  ~OutputFolder();
+  OutputFolder(const OutputFolder&) = delete;
+  OutputFolder& operator=(const OutputFolder&) = delete;
 
 private:
-  std::optional<Leftover> leftover_;
+  std::filesystem::path made_; ///< empty if the folder was there before
 };
 
 /// All files that a call asks for. They are opened before the import, filled after it, and replace what was there all
@@ -23,7 +27,7 @@ private:
 class Outputs {
 public:
   /// Throws UsageError where two names mean one file, and Failure where one cannot be written.
-  Outputs(const ImportOptions& options, const Inputs& inputs);
+  Outputs(const ImportOptions& options, const ProjectFiles& files);
 
   /// Whether standard output is taken.
   [[nodiscard]] bool takeStandardOutput() const { return takesStandardOutput_; }

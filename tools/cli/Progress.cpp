@@ -1,13 +1,13 @@
 #include "tools/cli/Progress.h"
 
+#include "tools/system/StandardStreams.h"
+
+#include <cstdio>
 #include <fmt/format.h>
-#include <unistd.h>
 
 namespace LagomareTools {
 
-Progress::Progress(bool isWanted) : isDrawn_(isWanted && ::isatty(STDERR_FILENO) != 0) {
-  draw("lagomare: reading the project");
-}
+Progress::Progress(bool isWanted) : isDrawn_(isWanted && isErrorATerminal()) { draw("lagomare: reading the project"); }
 
 Progress::~Progress() {
   try {
@@ -31,7 +31,7 @@ void Progress::draw(const std::string& text) {
   if (text.empty())
     line += '\r';
   width_ = text.size();
-  static_cast<void>(::write(STDERR_FILENO, line.data(), line.size()) < 0);
+  std::fputs(line.c_str(), stderr);
 }
 
 } // namespace LagomareTools

@@ -1,11 +1,9 @@
 #include "tools/project/DialectProbe.h"
 
+#include "access/Answer.h"
 #include "access/FieldError.h"
-#include "access/LagomareProjectManager.h"
-#include "tools/project/LastQuery.h"
-#include "tools/project/QueryLauncher.h"
-#include "tools/system/Failure.h"
-#include "tools/system/Text.h"
+#include "tools/project/ExecutableSource.h"
+#include "tools/project/QueryRefused.h"
 
 namespace LagomareTools {
 
@@ -16,8 +14,18 @@ enum class Finding { held, missing, silence, failure };
 /// What came of asking for a table.
 struct Probe {
   Finding finding;
-  std::string refusal; ///< why it is not held, in the query executable's words
+  std::string refusal; ///< why it is not held, in the words of the query executable
 };
+
+/// The bundled executable lists the tables, also those of an Access file.
+Probe askList(ProjectSource& source, const std::string& table) {
+  const auto answer = source.ask("select count(*) from sqlite_master where type in ('table', 'view') and lower(name) = "
+                                 "lower('" +
+                                     table + "')",
+                                 false);
+  const QueryResult rows = Lagomare::parseRows(*answer);
+  return {!rows.empty() && rows.begin()->first > 0 ? Finding::held : Finding::missing, "no such table: " + table};
+}
 
 std::string without(std::string text, const std::string& part) {
   for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part))
@@ -25,44 +33,26 @@ std::string without(std::string text, const std::string& part) {
   return text;
 }
 
-/// Executables of one's own say in their own words that a table is missing, or say nothing. Some repeat the SQL in
-/// any error.
-Finding findingOf(const std::string& refusal, const std::string& sql, const std::string& table, bool isOwnExecutable) {
-  const std::string complaint = lastQueryComplaint();
-  const std::string mark = isOwnExecutable ? table : "no such table: " + table;
-  if (without(refusal + ' ' + complaint, sql).find(mark) != std::string::npos)
-    return Finding::missing;
-  const std::string answer = firstLineOfAnswer();
-  const bool isSilent = complaint.empty() && (answer.empty() || answer.find(noAnswer) != std::string::npos);
-  return isOwnExecutable && isSilent ? Finding::silence : Finding::failure;
+bool endsWith(const std::string& text, const std::string& end) {
+  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
-/// Why the count was not answered.
-std::string refusalOfCount(const Inputs& inputs, const std::string& plainDatabase) {
-  std::string refusal = refusalOfLastQuery(inputs, plainDatabase);
-  if (!refusal.empty())
-    return refusal;
-  const std::string answer = firstLineOfAnswer();
-  const std::string complaint = lastQueryComplaint();
-  return "the query executable answered \"" + excerpt(answer) +
-         "\", which is no row: a number, a blank, one field more" + (complaint.empty() ? "" : "; it says " + complaint);
-}
-
-/// The count makes one row of an empty table too.
-Probe askFor(Dialect dialect, const Inputs& inputs, const std::string& plainDatabase) {
-  const std::string table = settingsTableOf(dialect);
+/// A custom executable says in its own words that a table is missing, or says nothing. Some repeat the SQL in every
+/// error. The count has one row, also for an empty table.
+Probe askCount(ProjectSource& source, const std::string& table) {
   const std::string sql = "select count(*) from " + table;
   try {
-    if (!LagomareProjectManager::getInstance()->query(sql, false).empty()) {
-      requireLaunched();
+    if (!Lagomare::parseRows(*source.ask(sql, false)).empty())
       return {Finding::held, ""};
-    }
-  } catch (const Lagomare::FieldError&) {
-    // No row either.
+    return {Finding::silence, "an empty answer to " + sql};
+  } catch (const QueryRefused& refusal) {
+    const std::string reason = refusal.what();
+    const bool isMissing = without(reason, sql).find(table) != std::string::npos;
+    return {isMissing ? Finding::missing : endsWith(reason, noReason) ? Finding::silence : Finding::failure, reason};
+  } catch (const Lagomare::FieldError& error) {
+    return {Finding::failure, "an answer that begins with \"" + error.text().value_or("") +
+                                  "\", which is no row: a number, a blank, one field more"};
   }
-  requireLaunched();
-  const std::string refusal = refusalOfCount(inputs, plainDatabase);
-  return {findingOf(refusal, sql, table, inputs.isOwnExecutable), refusal};
 }
 
 std::string namesOfBoth(const char* conjunction) {
@@ -72,21 +62,22 @@ std::string namesOfBoth(const char* conjunction) {
 
 } // namespace
 
-Dialect findDialect(const Inputs& inputs, const std::string& plainDatabase) {
-  const Probe of2010 = askFor(Dialect::of2010, inputs, plainDatabase);
-  const Probe of2013 = askFor(Dialect::of2013, inputs, plainDatabase);
+Dialect findDialect(ProjectSource& source, bool isBundled, const std::string& projectName) {
+  const auto ask = isBundled ? askList : askCount;
+  const Probe of2010 = ask(source, settingsTableOf(Dialect::of2010));
+  const Probe of2013 = ask(source, settingsTableOf(Dialect::of2013));
   const bool is2010 = of2010.finding == Finding::held;
   const bool is2013 = of2013.finding == Finding::held;
   for (const Probe& probe : {of2010, of2013})
     if (probe.finding == Finding::failure || (probe.finding == Finding::silence && !is2010 && !is2013))
-      throw Failure(inputs.projectName + ": which it holds, " + namesOfBoth("or") +
-                    ", cannot be found out: " + probe.refusal + "; --dialect says which to read");
+      throw Failure(projectName + ": cannot find out whether it holds " + namesOfBoth("or") + ": " + probe.refusal +
+                    "; say which to read with --dialect");
   if (is2010 && is2013)
-    throw Failure(inputs.projectName + ": holds both " + namesOfBoth("and") + "; say which to read with --dialect");
+    throw Failure(projectName + ": holds both " + namesOfBoth("and") + "; say which to read with --dialect");
   if (!is2010 && !is2013)
-    throw Failure(inputs.projectName + ": holds neither " + namesOfBoth("nor") +
+    throw Failure(projectName + ": holds neither " + namesOfBoth("nor") +
                   "; check that it is the project's database and not another one" +
-                  (inputs.isOwnExecutable ? " (the query executable says: " + of2013.refusal + ")" : ""));
+                  (isBundled ? "" : " (the query executable says: " + of2013.refusal + ")"));
   return is2010 ? Dialect::of2010 : Dialect::of2013;
 }
 

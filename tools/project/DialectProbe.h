@@ -1,11 +1,12 @@
 #pragma once
 
-#include "tools/project/Inputs.h"
+#include "tools/project/Dialect.h"
+#include "tools/project/ProjectSource.h"
 
 namespace LagomareTools {
 
-/// The dialect whose table of general settings the database holds, empty or not: asked through the channel, which must
-/// be open. Throws Failure where it holds both tables, or neither.
-[[nodiscard]] Dialect findDialect(const Inputs& inputs, const std::string& plainDatabase);
+/// Finds the dialect whose table of general settings the database holds, empty or not. Throws Failure if it holds both
+/// tables or neither, or if this cannot be found out.
+[[nodiscard]] Dialect findDialect(ProjectSource& source, bool isBundled, const std::string& projectName);
 
 } // namespace LagomareTools

@@ -33,6 +33,9 @@ public:
   /// Answers queries on the project; never null.
   [[nodiscard]] const std::shared_ptr<ProjectSource>& source() const { return source_; }
 
+  /// The lock file of Access beside the project, which tells that another program may have it open; empty if there is
+  /// none.
+  [[nodiscard]] std::filesystem::path lockFile() const;
   /// Throws Failure if the project's file has changed since it was opened.
   void requireUnchanged() const;
 
@@ -42,7 +45,7 @@ private:
   FileStamp stamp_;
   FileStamp logStamp_; ///< of the file through which SQLite writes in write-ahead mode
   std::shared_ptr<ProjectSource> source_;
-  Dialect dialect_;
+  Dialect dialect_ = Dialect::of2013;
 };
 
 } // namespace LagomareTools

@@ -9,8 +9,16 @@ namespace LagomareTools {
 
 std::string systemText(int error) { return std::generic_category().message(error); }
 
-void printError(const std::string& message) {
-  std::fputs(("lagomare: error: " + oneLine(message) + '\n').c_str(), stderr);
+namespace {
+
+void print(const char* kind, const std::string& message) {
+  std::fputs(("lagomare: " + std::string(kind) + ": " + oneLine(message) + '\n').c_str(), stderr);
 }
+
+} // namespace
+
+void printError(const std::string& message) { print("error", message); }
+
+void printWarning(const std::string& message) { print("warning", message); }
 
 } // namespace LagomareTools

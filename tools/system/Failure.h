@@ -5,13 +5,13 @@
 
 namespace LagomareTools {
 
-/// What ends the command as failed; the text says what, where and, if known, how to mend it.
+/// Ends the command as failed. The text says what, where and, if known, how to mend it.
 class Failure : public std::runtime_error {
 public:
   using std::runtime_error::runtime_error;
 };
 
-/// What is off in the words of the call.
+/// A usage error: what is wrong with the words of the call.
 class UsageError : public std::runtime_error {
 public:
   using std::runtime_error::runtime_error;
@@ -22,5 +22,7 @@ public:
 
 /// Prints "lagomare: error: " and the message on standard error, on one line whatever the message holds.
 void printError(const std::string& message);
+/// The same with "lagomare: warning: ".
+void printWarning(const std::string& message);
 
 } // namespace LagomareTools

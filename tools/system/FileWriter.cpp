@@ -1,25 +1,36 @@
 #include "tools/system/FileWriter.h"
 
 #include "tools/system/Failure.h"
+#include "tools/system/Interruption.h"
+#include "tools/system/StandardStreams.h"
 
 #include <cerrno>
-#include <unistd.h>
 
 namespace LagomareTools {
 
-FileWriter::FileWriter(int descriptor, std::string name) : descriptor_(descriptor), name_(std::move(name)) {}
+FileWriter::FileWriter(std::FILE* file, std::string name) : file_(file), name_(std::move(name)) {
+  std::setvbuf(file_, nullptr, _IONBF, 0); // there is a buffer here
+}
 
 void FileWriter::flush() {
-  std::string_view rest = buffer_;
-  while (!rest.empty()) {
-    const ssize_t written = ::write(descriptor_, rest.data(), rest.size());
-    if (written < 0 && errno == EINTR)
+  for (std::string_view rest = buffer_; !rest.empty();) {
+    Interruption::throwIfRequested();
+    std::clearerr(file_);
+    errno = 0;
+    rest.remove_prefix(std::fwrite(rest.data(), 1, rest.size(), file_));
+    if (std::ferror(file_) == 0 || errno == EINTR)
       continue;
-    if (written < 0)
-      throw Failure("cannot write " + name_ + ": " + systemText(errno));
-    rest.remove_prefix(static_cast<std::size_t>(written));
+    if (errno == EPIPE && file_ == stdout)
+      throw ReaderHasGone();
+    throw Failure("cannot write " + name_ + ": " + systemText(errno));
   }
   buffer_.clear();
+}
+
+void writeToStandardOutput(std::string_view text) {
+  FileWriter out(stdout, "standard output");
+  out.write(text);
+  out.flush();
 }
 
 } // namespace LagomareTools

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -8,21 +9,21 @@ namespace LagomareTools {
 /// Writes text to an open file through a buffer. What is not flushed is lost.
 class FileWriter {
 public:
-  /// Borrows the descriptor; the name is for messages.
-  FileWriter(int descriptor, std::string name);
+  /// Borrows the file; the name is for messages.
+  FileWriter(std::FILE* file, std::string name);
 
   void write(std::string_view text) {
     buffer_ += text;
     if (buffer_.size() >= fullBuffer)
       flush();
   }
-  /// Throws Failure, as write does, where the file does not take it.
+  /// Throws, as write() does, Failure if the file does not take it, ReaderHasGone and Interrupted.
   void flush();
 
 private:
   static constexpr std::size_t fullBuffer = std::size_t{1} << 16U;
 
-  int descriptor_;
+  std::FILE* file_;
   std::string name_;
   std::string buffer_;
 };

@@ -3,116 +3,139 @@
 #include "tools/system/Failure.h"
 
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <random>
 
 namespace LagomareTools {
 
-namespace {
-
 namespace fs = std::filesystem;
 
-constexpr unsigned permissionBits = 07777;
-
-/// What a new file may be, by the user's mask.
-unsigned usualMode() {
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  return 0666U & ~mask;
-}
-
-} // namespace
-
-fs::path placeOf(const std::string& name) {
-  constexpr int mostLinks = 40; // as the system allows
+fs::path resolved(const std::string& name) {
+  constexpr int mostLinks = 40;
   std::error_code error;
-  fs::path place = fs::absolute(name, error);
-  for (int links = 0; links < mostLinks && fs::is_symlink(place, error); ++links)
-    place = place.parent_path() / fs::read_symlink(place, error);
-  return place;
+  fs::path path = fs::absolute(fs::u8path(name), error);
+  for (int links = 0; links < mostLinks && fs::is_symlink(path, error); ++links)
+    path = path.parent_path() / fs::read_symlink(path, error);
+  return path;
 }
 
 OutputFile::OutputFile(const std::string& name) : name_(name) {
   if (name == standardOutput) {
-    writer_.emplace(STDOUT_FILENO, "standard output");
+    writer_.emplace(stdout, "standard output");
     return;
   }
-  place_ = placeOf(name);
-  struct stat status {};
-  const bool exists = ::stat(name.c_str(), &status) == 0;
-  if (!exists && errno != ENOENT)
-    fail(errno);
-  if (exists ? S_ISDIR(status.st_mode) : !place_.has_filename())
-    fail(EISDIR);
-  if (exists && ::access(name.c_str(), W_OK) != 0)
-    fail(errno);
-  if (exists && !S_ISREG(status.st_mode))
-    descriptor_ = ::open(name.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+  place_ = resolved(name);
+  std::error_code error;
+  const fs::file_status status = fs::status(place_, error);
+  if (status.type() == fs::file_type::none)
+    fail(error);
+  if (fs::is_directory(status) || !place_.has_filename())
+    fail(std::make_error_code(std::errc::is_a_directory));
+  if (fs::exists(status) && !fs::is_regular_file(status))
+    openDirectly();
+  else if (!fs::exists(status))
+    openBeside(fs::perms::unknown);
+  else if (openFile(place_, "r+b") != nullptr) // it may be written to
+    openBeside(status.permissions());
   else
-    openBeside(exists ? status.st_mode & permissionBits : usualMode());
-  if (descriptor_ < 0)
-    fail(errno);
-  writer_.emplace(descriptor_, name_);
+    failBySystem();
 }
 
 OutputFile::~OutputFile() {
-  if (descriptor_ >= 0)
-    ::close(descriptor_);
+  file_.reset();
+  std::error_code ignored;
+  for (const fs::path& path : {temporary_, replaced_})
+    if (!path.empty())
+      fs::remove(path, ignored);
 }
 
-void OutputFile::openBeside(unsigned mode) {
-  temporary_ = (place_.parent_path() / ".lagomare-XXXXXX").string();
-  descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
-  if (descriptor_ < 0)
+void OutputFile::openDirectly() {
+  file_ = openFile(place_, "wb");
+  if (file_ == nullptr)
+    failBySystem();
+  writer_.emplace(file_.get(), name_);
+}
+
+/// `permissions` are those of the file to replace, or unknown.
+void OutputFile::openBeside(fs::perms permissions) {
+  std::random_device random;
+  do {
+    temporary_ = place_.parent_path() / (".lagomare-" + std::to_string(random()));
+    file_ = openFile(temporary_, "wbx"); // with the permissions that new files of this user have
+  } while (file_ == nullptr && errno == EEXIST);
+  if (file_ == nullptr) {
+    temporary_.clear();
     throw Failure("cannot write " + name_ + ": its folder takes no new file: " + systemText(errno));
-  leftover_.emplace([file = temporary_] { ::unlink(file.c_str()); });
+  }
+  std::error_code error;
+  if (permissions != fs::perms::unknown)
+    fs::permissions(temporary_, permissions, error);
+  if (error)
+    fail(error);
+  writer_.emplace(file_.get(), name_);
   checkRoom();
-  if (::fchmod(descriptor_, mode) != 0)
-    fail(errno);
 }
 
 /// A full disk takes a new file, but no block of it.
 void OutputFile::checkRoom() {
   const std::string block(4096, '\0');
-  const ssize_t written = ::write(descriptor_, block.data(), block.size());
-  if (written != static_cast<ssize_t>(block.size()))
-    fail(written < 0 ? errno : ENOSPC);
-  if (::ftruncate(descriptor_, 0) != 0 || ::lseek(descriptor_, 0, SEEK_SET) != 0)
-    fail(errno);
+  if (std::fwrite(block.data(), 1, block.size(), file_.get()) != block.size() || std::fflush(file_.get()) != 0)
+    failBySystem();
+  std::error_code error;
+  fs::resize_file(temporary_, 0, error);
+  if (error)
+    fail(error);
+  std::rewind(file_.get());
+}
+
+const fs::path& OutputFile::path() {
+  if (temporary_.empty())
+    return place_;
+  writer_.reset(); // some systems let only one writer open a file
+  file_.reset();
+  return temporary_;
 }
 
 void OutputFile::finish() {
-  writer_->flush();
-  if (!temporary_.empty() && ::fsync(descriptor_) != 0)
-    fail(errno);
+  if (writer_)
+    writer_->flush();
+  if (!temporary_.empty()) {
+    if (file_ == nullptr)
+      file_ = openFile(temporary_, "r+b");
+    if (file_ == nullptr || !flushToDisk(file_.get()))
+      failBySystem();
+  }
+  writer_.reset();
+  file_.reset();
   isFinished_ = true;
 }
 
 void OutputFile::commit() {
   if (!isFinished_ || temporary_.empty())
     return;
-  replaced_ = temporary_ + '~';
-  const bool isKept = ::link(place_.c_str(), replaced_.c_str()) == 0;
-  const bool isNew = !isKept && errno == ENOENT;
-  if (isKept)
-    replacedLeftover_.emplace([file = replaced_] { ::unlink(file.c_str()); });
-  if (std::rename(temporary_.c_str(), place_.c_str()) != 0)
-    fail(errno);
+  replaced_ = temporary_;
+  replaced_ += "~";
+  std::error_code error;
+  fs::create_hard_link(place_, replaced_, error);
+  const bool isKept = !error;
+  const bool isNew = error == std::errc::no_such_file_or_directory;
+  fs::rename(temporary_, place_, error);
+  if (error)
+    fail(error);
+  temporary_.clear();
   undo_ = isKept ? Undo::putOldBack : isNew ? Undo::remove : Undo::nothing;
-  leftover_->keep();
 }
 
 void OutputFile::restore() noexcept {
+  std::error_code ignored; // nothing more can be done
   if (undo_ == Undo::remove)
-    ::unlink(place_.c_str());
+    fs::remove(place_, ignored);
   else if (undo_ == Undo::putOldBack)
-    static_cast<void>(std::rename(replaced_.c_str(), place_.c_str()) != 0); // nothing more can be done
+    fs::rename(replaced_, place_, ignored);
   undo_ = Undo::nothing;
 }
 
-void OutputFile::fail(int error) const { throw Failure("cannot write " + name_ + ": " + systemText(error)); }
+void OutputFile::fail(std::error_code error) const { throw Failure("cannot write " + name_ + ": " + error.message()); }
+
+void OutputFile::failBySystem() const { fail({errno, std::generic_category()}); }
 
 } // namespace LagomareTools

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "tools/project/ProjectSource.h"
+#include "tools/system/ChildProcess.h"
+#include "tools/system/PrivateDirectory.h"
+
+#include <array>
+#include <string_view>
+
+namespace LagomareTools {
+
+/// Asks one process for the whole project: `lagomare-query --session DATABASE`. Each answer is read while it is
+/// written. It counts only once its end line has come.
+class SessionSource : public ProjectSource {
+public:
+  /// Starts the process; `projectName` is for messages. Throws Failure.
+  SessionSource(std::filesystem::path executable, const std::filesystem::path& project, std::string projectName);
+
+private:
+  class Answer;
+
+  std::unique_ptr<std::istream> start(const std::string& sql, bool flag) override;
+
+  /// Reads more of the answer. Empty at its end.
+  [[nodiscard]] std::string_view next();
+  void readEndLine(std::string line);
+  void skipRest();
+  [[noreturn]] void failAsEnded();
+
+  std::filesystem::path executable_;
+  std::string projectName_;
+  PrivateDirectory directory_;
+  ChildProcess process_;
+  bool isAnswering_ = false;
+  std::array<char, std::size_t{1} << 16U> block_{};
+};
+
+} // namespace LagomareTools

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+namespace LagomareTools {
+
+struct FileCloser {
+  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+using FilePointer = std::unique_ptr<std::FILE, FileCloser>;
+
+/// Opens a file as std::fopen does; programs started later do not see it. Null with errno if it cannot.
+[[nodiscard]] FilePointer openFile(const std::filesystem::path& file, const char* mode);
+
+/// Puts a written file on the disk. False with errno if it cannot.
+[[nodiscard]] bool flushToDisk(std::FILE* file);
+
+} // namespace LagomareTools
