@@ -144,6 +144,54 @@ TEST_F(AccessDatabaseTest, ColumnsWithoutAPlaceOfTheirOwnAreDamage) {
   }
 }
 
+struct Damage {
+  const char* sample;
+  std::vector<std::pair<std::size_t, int>> bytes; // where, and what stands there then
+  const char* sql;
+  const char* reason;
+};
+
+/// Each of these was once read as other rows, or as fewer.
+TEST_F(AccessDatabaseTest, DamageOfAFewBytesIsFound) {
+  const std::size_t memo = contentOf(sample("jet3.mdb")).find(std::string("\xB8\x0B\0\0\0\x0A\0\0", 8));
+  const Damage damages[] = {
+      // Rows that begin a few bytes too late: a row without columns, another one, and one of too many.
+      {"example-2010.mdb", {{282656, 0x5D}}, "SELECT * FROM LinksCmaxEH", "has 0 columns"},
+      {"example-2010.mdb", {{340052, 0x0C}}, "SELECT * FROM ResVmetaEH", "has 0 columns"},
+      {"example-2013.accdb", {{528438, 0x73}}, "SELECT * FROM LgmLnkCmaxSC", "has 107 columns"},
+      // A slot that leads into the table of slots.
+      {"example-2010.mdb", {{282656, 16}, {282657, 0}}, "SELECT * FROM LinksCmaxEH", "begins outside its place"},
+      // A moved row's pointer that leads to a row which did not move.
+      {"jet3.mdb", {{15571, 0}}, "SELECT * FROM Nós", "moved to where no row of it is"},
+      {"jet3.mdb",
+       {{14351, 0x47}, {16267, 1}, {16268, 8}, {16269, 0}, {16270, 0}},
+       "SELECT * FROM Nós",
+       "moved to the same place"},
+      // A long text whose last part leads to itself, and which says that it is a gigabyte long.
+      {"jet3.mdb", {{memo + 3, 0x3F}, {26421, 12}}, "SELECT Nota FROM Nós", "lead back to each other"},
+      {"jet3.mdb", {{memo, 0xB7}}, "SELECT Nota FROM Nós", "not of its length"},
+  };
+  for (const Damage& damage : damages) {
+    std::string bytes = contentOf(sample(damage.sample));
+    for (const auto& [place, value] : damage.bytes)
+      bytes.at(place) = static_cast<char>(value);
+    writeFile("damaged.mdb", bytes);
+    EXPECT_NE(refusal("damaged.mdb", damage.sql).find(damage.reason), std::string::npos) << damage.reason;
+  }
+}
+
+TEST_F(AccessDatabaseTest, ADefinitionThatSaysNoRowsHidesNone) {
+  constexpr std::size_t rowCount = 16;
+  std::string bytes = contentOf(sample("types.mdb"));
+  const std::string expected = answer(sample("types.mdb"), "SELECT * FROM Tipos");
+  const std::size_t definition =
+      4096 * std::stoul(answer(sample("types.mdb"), "SELECT Id FROM MSysObjects WHERE Name = 'Tipos'"));
+  ASSERT_EQ(bytes.at(definition + rowCount), 10);
+  bytes[definition + rowCount] = 0;
+  writeFile("unknown.mdb", bytes);
+  EXPECT_TRUE(answer("unknown.mdb", "SELECT * FROM Tipos") == expected);
+}
+
 TEST_F(AccessDatabaseTest, AnotherCodePageIsRefusedByName) {
   constexpr std::size_t codePage = 0x3C;
   std::string bytes = contentOf(sample("jet3.mdb"));

@@ -69,7 +69,7 @@ Database openDatabase(const std::string& path) {
 }
 
 void requireUnchanged(const Database& database) {
-  if (database.stamp && !(FileStamp::of(database.file) == *database.stamp))
+  if (database.stamp && !(LagomareTools::FileStamp::of(database.file) == *database.stamp))
     throw DatabaseChanged("the database was changed while it was read; close it in the other program, then try again");
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "tools/query/FileStamp.h"
 #include "tools/query/sqlite/Sqlite.h"
+#include "tools/system/FileStamp.h"
+#include <filesystem>
+#include <memory>
 #include <optional>
 
 namespace LagomareQuery {
@@ -12,7 +14,7 @@ struct Database {
   Connection connection;
   std::filesystem::path file;
   /// Of `file`: from before its first byte was read or, where SQLite locks it, from then on; none where a copy is read.
-  std::optional<FileStamp> stamp;
+  std::optional<LagomareTools::FileStamp> stamp;
 };
 
 /// Opens a SQLite or an Access file, told apart by their first bytes. Throws QueryError. A SQLite file is seen in one

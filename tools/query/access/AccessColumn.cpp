@@ -35,14 +35,16 @@ bool take(std::vector<bool>& taken, std::size_t begin, std::size_t size) {
 }
 
 /// Where columns share a number or bytes of their rows, one would be read as the other without a word.
-void requireSeparate(const std::vector<AccessColumn>& columns, std::size_t endOfNumbers, const std::string& table) {
+void requireSeparate(const std::vector<AccessColumn>& columns, std::size_t endOfNumbers, std::size_t endOfCells,
+                     const std::string& table) {
   std::vector<bool> numbers;
   std::vector<bool> fixedBytes;
   std::vector<bool> variableCells;
   for (const AccessColumn& column : columns) {
     const bool hasNumber = column.number < endOfNumbers && take(numbers, column.number, 1);
-    const bool hasPlace = column.fixed ? take(fixedBytes, column.fixedOffset, fixedSize(column))
-                                       : take(variableCells, column.variableIndex, 1);
+    const bool hasPlace = column.fixed
+                              ? take(fixedBytes, column.fixedOffset, fixedSize(column))
+                              : column.variableIndex < endOfCells && take(variableCells, column.variableIndex, 1);
     if (!hasNumber || !hasPlace)
       throwDamaged("column " + column.name + " of table " + table + " has no place of its own");
   }
@@ -89,7 +91,8 @@ std::vector<AccessColumn> readColumns(const AccessFile& file, const std::string&
     file.appendText(definition.part(position + format.countSize, length), column.name);
     position += format.countSize + length;
   }
-  requireSeparate(columns, definition.u16(format.endOfColumnNumbers), table);
+  requireSeparate(columns, definition.u16(format.endOfColumnNumbers), definition.u16(format.variableColumnCount),
+                  table);
   std::sort(columns.begin(), columns.end(),
             [](const AccessColumn& left, const AccessColumn& right) { return left.number < right.number; });
   return columns;

@@ -5,7 +5,7 @@
 namespace LagomareQuery {
 
 Database openAccessDatabase(const std::filesystem::path& file) {
-  const FileStamp stamp = FileStamp::of(file);
+  const auto stamp = LagomareTools::FileStamp::of(file);
   const auto pages = std::make_shared<AccessFile>(file);
   Connection connection = openConnection(":memory:", SQLITE_OPEN_READWRITE);
   const std::vector<AccessObject> objects = readCatalog(*pages);

@@ -1,5 +1,7 @@
 #include "tools/query/access/AccessLongValue.h"
 
+#include <set>
+
 namespace LagomareQuery {
 
 namespace {
@@ -8,6 +10,8 @@ constexpr std::size_t headerSize = 12; // length and where, pointer, four bytes 
 constexpr std::uint32_t inCellFlag = 0x80000000;
 constexpr std::uint32_t inOneRowFlag = 0x40000000;
 constexpr std::uint32_t lengthMask = 0x3FFFFFFF;
+
+constexpr const char* lengthDiffers = "a long text whose parts are not of its length";
 
 void append(std::vector<std::uint8_t>& bytes, AccessBytes part) {
   bytes.insert(bytes.end(), part.data(), part.data() + part.size());
@@ -24,14 +28,19 @@ AccessBytes readLongValueRow(const AccessFile& file, AccessRowId row, AccessPage
 /// Each row begins with a pointer to the next one.
 void appendChain(const AccessFile& file, std::uint32_t pointer, std::size_t length, std::vector<std::uint8_t>& bytes) {
   AccessPage page;
+  std::set<std::uint32_t> visited;
   while (bytes.size() < length) {
+    if (!visited.insert(pointer).second)
+      throwDamaged("a long text whose parts lead back to each other");
     const AccessBytes row = readLongValueRow(file, AccessRowId::stored(pointer), page);
     const AccessBytes part = row.from(4);
     if (part.size() == 0 || part.size() > length - bytes.size())
-      throwDamaged("a long text whose parts are not of its length");
+      throwDamaged(lengthDiffers);
     append(bytes, part);
     pointer = row.u32(0);
   }
+  if (pointer != 0 && length != 0)
+    throwDamaged(lengthDiffers);
 }
 
 } // namespace

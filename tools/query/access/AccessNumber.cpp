@@ -35,6 +35,8 @@ std::string decimalDigits(std::array<std::uint32_t, 4> groups) {
   return digits;
 }
 
+[[noreturn]] void throwDateOutside() { throwDamaged("a date outside the years 1 to 9999"); }
+
 } // namespace
 
 double doubleOfSingle(float single) {
@@ -61,10 +63,12 @@ std::string isoOfDateTime(double days) {
   constexpr int daySeconds = 86400;
   const double day = std::trunc(days);
   if (!(day >= firstDay && day <= lastDay))
-    throwDamaged("a date outside the years 1 to 9999");
+    throwDateOutside();
   const auto rounded = static_cast<int>(std::lround(std::abs(days - day) * daySeconds));
   const int second = rounded % daySeconds;
   const Day date = dayFromAccess(static_cast<std::int64_t>(day) + rounded / daySeconds);
+  if (date.year > 9999)
+    throwDateOutside();
   std::array<char, 64> text{};
   static_cast<void>(std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", date.year, date.month,
                                   date.day, second / 3600, second / 60 % 60, second % 60));

@@ -15,7 +15,7 @@ namespace LagomareQuery {
 [[nodiscard]] double doubleOfDecimal(AccessBytes stored, unsigned scale);
 
 /// `days` counts from 1899-12-30; the fraction is the time of day, always forward, before that day too. "YYYY-MM-DD
-/// HH:MM:SS", to the nearest second. Throws QueryError outside the years 0 to 9999.
+/// HH:MM:SS", to the nearest second. Throws QueryError outside the years 1 to 9999.
 [[nodiscard]] std::string isoOfDateTime(double days);
 
 /// "{00112233-4455-6677-8899-AABBCCDDEEFF}"

@@ -20,20 +20,35 @@ std::size_t before(std::size_t size, std::size_t parts) {
 AccessRecord::AccessRecord(AccessBytes row, const AccessTable& table, const AccessFormat& format)
     : row_(row), format_(&format), columnCount_(count(row, 0, format)),
       dataEnd_(before(row.size(), (columnCount_ + 7) / 8)) {
-  if (!table.hasVariableColumns)
-    return;
-  const std::size_t countOffset = before(dataEnd_, format.countSize);
-  variableCount_ = count(row, countOffset, format);
+  if (columnCount_ == 0 || columnCount_ >= table.shapes.size())
+    throwDamaged("a row of table " + table.name + " that has " + std::to_string(columnCount_) + " columns");
+  const AccessRowShape& shape = table.shapes[columnCount_];
+  std::size_t fixedEnd = dataEnd_;
+  bool fits = true;
+  if (table.hasVariableColumns) {
+    const std::size_t offsets = findVariableCells();
+    // Access leaves room behind the cells where a row has become shorter.
+    fits = variableCount_ <= shape.mostVariableCells && variableOffset(variableCount_) <= offsets;
+    fixedEnd = variableOffset(0);
+  }
+  if (!fits || fixedEnd < shape.leastFixedEnd || fixedEnd > shape.mostFixedEnd)
+    throwDamaged("a row of table " + table.name + " that does not fit the table's columns");
+}
+
+std::size_t AccessRecord::findVariableCells() {
+  const std::size_t countOffset = before(dataEnd_, format_->countSize);
+  variableCount_ = count(row_, countOffset, *format_);
   offsetsEnd_ = countOffset;
-  if (!format.utf16) { // Jet3: the jump table stands between the offsets and their count
-    jumpCount_ = (row.size() - 1) / 256;
+  if (!format_->utf16) { // Jet3: the jump table stands between the offsets and their count
+    jumpCount_ = (row_.size() - 1) / 256;
     jumpsEnd_ = countOffset;
     offsetsEnd_ = before(countOffset, jumpCount_);
   }
-  const std::size_t offsets = before(offsetsEnd_, (variableCount_ + 1) * format.countSize);
+  const std::size_t offsets = before(offsetsEnd_, (variableCount_ + 1) * format_->countSize);
   // The last jump may be a dummy, for the offsets themselves.
   if (jumpCount_ > 0 && offsets / 256 < jumpCount_)
     --jumpCount_;
+  return offsets;
 }
 
 std::size_t AccessRecord::variableOffset(std::size_t index) const {

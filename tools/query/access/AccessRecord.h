@@ -9,7 +9,7 @@ class AccessRecord {
 public:
   AccessRecord() = default;
 
-  /// Throws QueryError where the row's parts do not fit into it.
+  /// Throws QueryError where the row's parts do not fit into it or to the table.
   AccessRecord(AccessBytes row, const AccessTable& table, const AccessFormat& format);
 
   /// For a truth value: whether it is false; it cannot be NULL.
@@ -22,6 +22,8 @@ public:
   [[nodiscard]] AccessBytes cell(const AccessColumn& column) const;
 
 private:
+  /// Returns where the table of the variable cells' offsets begins.
+  [[nodiscard]] std::size_t findVariableCells();
   [[nodiscard]] std::size_t variableOffset(std::size_t index) const;
 
   AccessBytes row_;

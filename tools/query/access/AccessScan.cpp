@@ -28,8 +28,9 @@ bool AccessScan::next() {
 AccessBytes AccessScan::followPointer(AccessBytes pointer) {
   const AccessRowId row = AccessRowId::stored(pointer.u32(0));
   const AccessBytes bytes = readRow(file_, row, movedPage_);
-  if (movedPage_.bytes().u32(4) != page_.bytes().u32(4))
-    throwDamaged("a row of table " + table_.name + " that moved to a page of another one");
+  const bool ofThisTable = movedPage_.bytes().u32(4) == page_.bytes().u32(4);
+  if (!ofThisTable || slotOf(movedPage_, file_.format(), row.slot) != AccessSlot::deleted)
+    throwDamaged("a row of table " + table_.name + " that moved to where no row of it is");
   return bytes;
 }
 

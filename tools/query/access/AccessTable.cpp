@@ -1,6 +1,7 @@
 #include "tools/query/access/AccessTable.h"
 
 #include "tools/query/access/AccessUsageMap.h"
+#include <algorithm>
 
 namespace LagomareQuery {
 
@@ -28,12 +29,23 @@ std::vector<std::uint8_t> definitionBytes(const AccessFile& file, std::uint32_t 
   return bytes;
 }
 
-std::size_t liveRows(const AccessPage& page, const AccessFormat& format) {
-  std::size_t live = 0;
-  for (std::size_t slot = 0, count = rowCount(page, format); slot < count; ++slot)
-    if (slotOf(page, format, slot) != AccessSlot::deleted)
-      ++live;
-  return live;
+/// Counts the rows on a page, and lists where those went that moved to another one.
+std::size_t countRows(const AccessPage& page, const AccessFormat& format, std::vector<std::uint32_t>& moved) {
+  std::size_t rows = 0;
+  for (std::size_t slot = 0, count = rowCount(page, format); slot < count; ++slot) {
+    const AccessSlot kind = slotOf(page, format, slot);
+    if (kind != AccessSlot::deleted)
+      ++rows;
+    if (kind == AccessSlot::pointer)
+      moved.push_back(rowBytes(page, format, slot).u32(0));
+  }
+  return rows;
+}
+
+void requireDifferent(std::vector<std::uint32_t>& moved, const std::string& table) {
+  std::sort(moved.begin(), moved.end());
+  if (std::adjacent_find(moved.begin(), moved.end()) != moved.end())
+    throwDamaged("table " + table + " has two rows that moved to the same place");
 }
 
 } // namespace
@@ -45,8 +57,10 @@ AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t de
   AccessTable table;
   table.name = std::move(name);
   table.rowCount = definition.u32(format.rowCount);
-  table.hasVariableColumns = definition.u16(format.variableColumnCount) != 0;
+  const std::size_t variableColumnCount = definition.u16(format.variableColumnCount);
+  table.hasVariableColumns = variableColumnCount != 0;
   table.columns = readColumns(file, table.name, definition);
+  table.shapes = rowShapes(table.columns, definition.u16(format.endOfColumnNumbers), variableColumnCount, format);
   table.definitionPage = definitionPage;
   table.usageMap = AccessRowId::stored(definition.u32(format.usageMap));
   return table;
@@ -57,6 +71,7 @@ AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t de
 std::vector<std::uint32_t> readDataPages(const AccessFile& file, const AccessTable& table) {
   std::vector<std::uint32_t> own;
   std::size_t rows = 0;
+  std::vector<std::uint32_t> moved;
   const std::vector<std::uint32_t> marked = pagesOf(file, table.usageMap);
   AccessPage page;
   for (const std::uint32_t pageNumber : marked) {
@@ -64,12 +79,13 @@ std::vector<std::uint32_t> readDataPages(const AccessFile& file, const AccessTab
     if (!page.is(AccessPage::Kind::data) || page.bytes().u32(ownerOffset) != table.definitionPage)
       continue;
     own.push_back(pageNumber);
-    rows += liveRows(page, file.format());
+    rows += countRows(page, file.format(), moved);
   }
   const bool unknown = table.rowCount == 0 && own.size() == marked.size();
   if (rows != table.rowCount && !unknown)
     throwDamaged("table " + table.name + " has " + std::to_string(rows) + " rows where " +
                  std::to_string(table.rowCount) + " should be");
+  requireDifferent(moved, table.name);
   return own;
 }
 

@@ -2,6 +2,7 @@
 
 #include "tools/query/access/AccessColumn.h"
 #include "tools/query/access/AccessRow.h"
+#include "tools/query/access/AccessRowShape.h"
 
 namespace LagomareQuery {
 
@@ -10,7 +11,8 @@ struct AccessTable {
   std::string name;
   std::uint32_t rowCount = 0; ///< 0: unknown, the database was not closed properly
   bool hasVariableColumns = false;
-  std::vector<AccessColumn> columns; ///< in the order of `select *`
+  std::vector<AccessColumn> columns;  ///< in the order of `select *`
+  std::vector<AccessRowShape> shapes; ///< of its rows, by their number of columns
   std::uint32_t definitionPage = 0;
   AccessRowId usageMap; ///< says which pages hold the table's rows
 };
@@ -18,8 +20,8 @@ struct AccessTable {
 /// Reads the definition that begins on that page. Throws QueryError.
 [[nodiscard]] AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t definitionPage);
 
-/// The pages that hold the table's rows, in stored order. Throws QueryError where they hold other rows than the
-/// definition says, so that no row is missed without a word.
+/// The pages that hold the table's rows, in stored order. Throws QueryError where they hold more or fewer rows than the
+/// definition says, or one row twice, so that no row is missed without a word.
 [[nodiscard]] std::vector<std::uint32_t> readDataPages(const AccessFile& file, const AccessTable& table);
 
 } // namespace LagomareQuery

@@ -1,7 +1,7 @@
 #include "tools/query/sqlite/PrivateCopy.h"
 
-#include "tools/query/FileStamp.h"
 #include "tools/query/QueryError.h"
+#include "tools/system/FileStamp.h"
 #include <array>
 #include <random>
 
@@ -10,6 +10,7 @@ namespace LagomareQuery {
 namespace {
 
 namespace fs = std::filesystem;
+using LagomareTools::FileStamp;
 
 constexpr std::array<const char*, 3> parts = {"", "-wal", "-journal"};
 

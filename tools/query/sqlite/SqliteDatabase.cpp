@@ -10,6 +10,7 @@ namespace LagomareQuery {
 namespace {
 
 namespace fs = std::filesystem;
+using LagomareTools::FileStamp;
 
 /// The file as a URI, every byte that could mean something in one escaped.
 std::string uriOf(const fs::path& file, const char* parameters) {
