@@ -1,11 +1,12 @@
-// A damaged Access file gives an error or as many rows of each table as the undamaged one; cells may change. The input
-// is the number of a sample and what is damaged in it, as Files.h tells.
+// A damaged Access file gives an error or the rows of each table, of which cells may be changed. The input
+// is a Damage of one of the samples.
 
-#include "fuzz/Files.h"
+#include "fuzz/Damage.h"
+#include "fuzz/Finding.h"
 #include "fuzz/Tables.h"
+#include "fuzz/Workplace.h"
 
 #include <array>
-#include <sstream>
 
 using namespace LagomareFuzz;
 
@@ -13,8 +14,7 @@ namespace {
 
 struct Sample {
   explicit Sample(const std::string& name)
-      : bytes(contentOf(LAGOMARE_FUZZ_SAMPLES "/" + name)),
-        tables(tablesOf(LagomareQuery::openDatabase(LAGOMARE_FUZZ_SAMPLES "/" + name))) {}
+      : bytes(contentOf(LAGOMARE_FUZZ_SAMPLES "/" + name)), tables(tablesOf(LAGOMARE_FUZZ_SAMPLES "/" + name)) {}
 
   std::string bytes;
   Tables tables;
@@ -26,11 +26,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const std::array<Sample, 4> samples{Sample("jet3.mdb"), Sample("types.mdb"), Sample("example-2010.mdb"),
                                              Sample("example-2013.accdb")};
   static const std::string file = workplace() / "damaged.mdb";
-  std::istringstream text(std::string(reinterpret_cast<const char*>(data), size));
-  std::uint32_t number = 0;
-  text >> number;
-  const Sample& sample = samples[number % samples.size()];
-  writeFile(file, damaged(sample.bytes, text));
-  requireErrorOrAllRows(file, sample.tables);
+  const Damage damage(std::string(reinterpret_cast<const char*>(data), size));
+  const Sample& sample = samples[damage.file() % samples.size()];
+  writeFile(file, damage.appliedTo(sample.bytes));
+  const std::string missing = missingIn(file, sample.tables, damage.changes());
+  require(missing.empty(), missing);
   return 0;
+}
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
+                                               unsigned seed) {
+  return mutateDamage(data, size, maxSize, seed);
 }

@@ -4,16 +4,19 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace LagomareFuzz {
 
-/// How many rows each table has, by a query that names its columns.
-using Tables = std::map<std::string, std::size_t>;
+/// The rows of each table as lines of an answer, sorted, by a query that names the table's columns.
+using Tables = std::map<std::string, std::vector<std::string>>;
 
 /// The tables of a sound file.
-[[nodiscard]] Tables tablesOf(const LagomareQuery::Database& database);
+[[nodiscard]] Tables tablesOf(const std::string& file);
 
-/// Asks for each table of a file that may be damaged: there must be an error or as many rows as told.
-void requireErrorOrAllRows(const std::string& file, const Tables& tables);
+/// Asks for each table of a file in which so many places are damaged. There must be an error or as many rows as in the
+/// sound file, and no row of it twice in the place of another: a change in one place changes one cell of a row. Returns
+/// what does not hold, or nothing.
+[[nodiscard]] std::string missingIn(const std::string& file, const Tables& sound, std::size_t changes);
 
 } // namespace LagomareFuzz

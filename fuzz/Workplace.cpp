@@ -1,4 +1,4 @@
-#include "fuzz/Files.h"
+#include "fuzz/Workplace.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -47,18 +47,6 @@ void writeFile(const fs::path& file, const std::string& content) {
   std::ofstream out(file, std::ios::binary);
   if (!out.write(content.data(), static_cast<std::streamsize>(content.size())).flush())
     throw std::runtime_error("cannot write " + file.string());
-}
-
-std::string damaged(std::string bytes, std::istream& text) {
-  constexpr std::uint32_t cut = 256;
-  const std::size_t size = bytes.size();
-  std::uint32_t position = 0;
-  for (std::uint32_t value = 0; text >> position >> value;)
-    if (value >= cut)
-      bytes.resize(std::min<std::size_t>(bytes.size(), position % size));
-    else if (position % size < bytes.size())
-      bytes[position % size] = static_cast<char>(value);
-  return bytes;
 }
 
 } // namespace LagomareFuzz
