@@ -33,8 +33,8 @@ update LgmVazNat set Valor = -0.000001 where NumPto = 23 and rowid % 5 = 0;
 # All series as the page's script unpacks them.
 UNPACK = """
 const done = arguments[0];
-Promise.all(data.elements.map(async (element) => [element.key, await Promise.all(element.series.map(async (serie) =>
-  [serie.kind, serie.state, serie.begin, Array.from(await unpack(serie.numbers))]))])).then(done);
+Promise.all(data.elements.map(async (element) => [element.key, await Promise.all(element.series.map(async ([label, state, begin, numbers]) =>
+  [...data.serieLabels[label], state, begin, Array.from(await unpack(numbers))]))])).then(done);
 """
 FOCUSED = "return document.activeElement.closest('tbody tr')?.dataset.key"
 DRAWN = """
@@ -46,7 +46,7 @@ return canvas && canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas
 def expected_series(scenario):
     def entry(serie, state):
         year, month = map(int, serie["begin"].split("-")[:2])
-        return [serie["kind"], state, [year, month], serie["values"]]
+        return [serie["name"], serie["unit"], state, year * 12 + month - 1, serie["values"]]
 
     elements = [("node", node) for node in scenario["nodes"]] + [("link", link) for link in scenario["links"]]
     for kind, element in elements:

@@ -37,7 +37,7 @@ std::array<LabelPlace, 8> placesAround(double radius, unsigned level) {
 
 } // namespace
 
-double pixelsPerUnit(unsigned level) { return std::ldexp(0.5, static_cast<int>(level)); }
+double pixelsPerUnit(unsigned level) { return std::exp2((static_cast<double>(level) - usualMapLevel) / 2); }
 
 double roomForSymbols(std::size_t nodes) {
   return std::sqrt(160.0 / static_cast<double>(std::max<std::size_t>(nodes, 1)));
@@ -54,13 +54,12 @@ void LabelPlacer::addSymbol(MapPoint at, double radius) {
 }
 
 std::optional<LabelPlace> LabelPlacer::place(const LabelOwner& owner, std::size_t length) {
-  // A clear place one level further is better than one that a link crosses.
-  for (unsigned level = 0; level < numOfMapLevels; ++level)
-    if (const auto clear = placeAt(owner, length, level, false))
-      return clear;
-    else if (level > 0)
-      if (const auto crossed = placeAt(owner, length, level - 1, true))
-        return crossed;
+  constexpr unsigned patience = 2; // levels that one waits for a place which no link crosses
+  for (unsigned level = 0; level < numOfMapLevels + patience; ++level)
+    for (const bool isCrossedThere : {false, true})
+      if (const unsigned later = isCrossedThere ? patience : 0; level >= later && level - later < numOfMapLevels)
+        if (const auto place = placeAt(owner, length, level - later, isCrossedThere))
+          return place;
   return std::nullopt;
 }
 

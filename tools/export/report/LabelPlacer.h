@@ -8,9 +8,10 @@
 
 namespace LagomareTools {
 
-/// The steps in which the map shows more the nearer one looks. At level 1 a unit of the map is a pixel, at each further
-/// level twice as many; symbols and labels keep their size.
-constexpr unsigned numOfMapLevels = 8;
+/// The steps in which the map shows more the nearer one looks. At the usual level a unit of the map is a pixel; two
+/// levels further it is two. Symbols and labels keep their size.
+constexpr unsigned numOfMapLevels = 15;
+constexpr unsigned usualMapLevel = 2;
 
 [[nodiscard]] double pixelsPerUnit(unsigned level);
 /// How large a map of so many nodes can show their symbols at a pixel per unit.

@@ -22,6 +22,14 @@ std::string titleOf(const Element& element) {
   return htmlText(element.getName() + " · " + element.getElementType()->name);
 }
 
+/// The classes of what is shown without a script.
+std::string shownLevels() {
+  std::string classes;
+  for (unsigned level = 0; level <= usualMapLevel; ++level)
+    classes += fmt::format("{}at-{}", level == 0 ? "" : " ", level);
+  return classes;
+}
+
 /// A link from one place to another, bowed where others join the same two.
 struct LinkLine {
   MapPoint begin;
@@ -160,10 +168,11 @@ void Drawing::writeScaleBar() {
   const double decade = std::pow(10.0, std::floor(std::log10(kilometres)));
   const double round = decade * (kilometres >= 5 * decade ? 5 : kilometres >= 2 * decade ? 2 : 1);
   const double length = round / map_.kilometresPerUnit();
+  const std::string text = round >= 1 ? figureText(round) + " km" : roundedText(round * 1000) + " m";
   out_.write(fmt::format(R"svg(<g class="scale-bar" transform="translate(14 {:.1f})"><g class="fixed">
-<path d="M0-5V0H{:.1f}V-5"/><text x="{:.1f}" y="0">{} km</text></g></g>
+<path d="M0-5V0H{:.1f}V-5"/><text x="{:.1f}" y="0">{}</text></g></g>
 )svg",
-                         map_.height() - 12, length, length + 6, figureText(round)));
+                         map_.height() - 12, length, length + 6, text));
 }
 
 void Drawing::writeMissing(std::size_t links) {
@@ -187,12 +196,13 @@ void Drawing::writeMissing(std::size_t links) {
 void Drawing::write() {
   placeLabels();
   out_.write(fmt::format(
-      R"svg(<svg class="network at-0 at-1 size-{:.0f}" viewBox="0 0 {:.0f} {:.0f}" role="img" aria-label="Map of the
+      R"svg(<svg class="network {} size-{:.0f}" viewBox="0 0 {:.0f} {:.0f}" role="img" aria-label="Map of the
 network: {}, {}. The tables of elements say the same in words." data-room="{:.4g}" data-kilometres="{:.6g}">
 <g class="world">
 )svg",
-      symbolScale(1.0, labels_.room()) * 10, map_.width, map_.height(), counted(network_.nodes.size(), "node", "nodes"),
-      counted(network_.links.size(), "link", "links"), labels_.room(), map_.kilometresPerUnit()));
+      shownLevels(), symbolScale(1.0, labels_.room()) * 10, map_.width, map_.height(),
+      counted(network_.nodes.size(), "node", "nodes"), counted(network_.links.size(), "link", "links"), labels_.room(),
+      map_.kilometresPerUnit()));
   std::size_t missingLinks = 0;
   for (const auto& link : network_.links)
     if (map_.find(link->upstream.lock().get()) && map_.find(link->downstream.lock().get()))

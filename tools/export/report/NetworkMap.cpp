@@ -11,7 +11,8 @@ constexpr double margin = 56.0; ///< room for symbols and labels at the edges
 constexpr double lowest = 320.0;
 constexpr double highest = 660.0;
 constexpr double kilometresPerDegree = 111.2;
-constexpr double smallestExtent = 0.001; ///< degrees; a single node has none
+constexpr double extentOfOnePlace = 0.05; ///< degrees; shown around nodes that are all in one place
+constexpr double nothing = 1e-6;
 /// A node is left out where it lies further from the middle than so many times the usual distance.
 constexpr double farOut = 15.0;
 
@@ -41,7 +42,7 @@ void leaveOutFar(std::vector<const Node*>& nodes, std::vector<const Node*>& miss
   };
   std::vector<double> distances;
   std::transform(nodes.begin(), nodes.end(), std::back_inserter(distances), distance);
-  const double limit = farOut * std::max(middleOf(distances), smallestExtent);
+  const double limit = farOut * std::max(middleOf(distances), extentOfOnePlace);
   const auto isNear = [&](const Node* node) { return distance(node) <= limit; };
   const auto far = std::stable_partition(nodes.begin(), nodes.end(), isNear);
   missing.insert(missing.end(), far, nodes.end());
@@ -52,7 +53,7 @@ struct Extent {
   double least;
   double most;
 
-  [[nodiscard]] double length() const { return std::max(most - least, smallestExtent); }
+  [[nodiscard]] double length() const { return most - least; }
   [[nodiscard]] double middle() const { return (least + most) / 2.0; }
 };
 
@@ -78,8 +79,11 @@ NetworkMap::NetworkMap(const Network& network) {
   const Extent latitude = extentOf(nodes, [](const Node* node) { return node->getY(); });
   // A degree of longitude is shorter the further from the equator: in the map's middle both are true to scale.
   const double shrink = std::cos(latitude.middle() * std::acos(-1.0) / 180.0);
-  const double extent = longitude.length() * shrink;
-  const double unitsPerDegree = std::min((width - 2 * margin) / extent, (highest - 2 * margin) / latitude.length());
+  double across = std::max(longitude.length() * shrink, nothing);
+  const double down = std::max(latitude.length(), nothing);
+  if (across <= nothing && down <= nothing)
+    across = extentOfOnePlace;
+  const double unitsPerDegree = std::min((width - 2 * margin) / across, (highest - 2 * margin) / down);
   height_ = std::max(lowest, std::ceil(latitude.length() * unitsPerDegree + 2 * margin));
   kilometresPerUnit_ = kilometresPerDegree / unitsPerDegree;
   for (const Node* node : nodes)

@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <fmt/format.h>
+#include <map>
 #include <nlohmann/json.hpp>
 
 namespace LagomareTools {
@@ -24,15 +25,20 @@ public:
   [[nodiscard]] const PackedNumbers& numbers() const { return numbers_; }
 
 private:
-  [[nodiscard]] static Json identityOf(const Element& element);
+  [[nodiscard]] Json identityOf(const Element& element);
   [[nodiscard]] Json dataOf(const Node& node);
   [[nodiscard]] Json dataOf(const Link& link);
-  /// State 0 is the base series.
+  /// The index of a series' name and unit.
+  [[nodiscard]] std::size_t labelOf(const Serie& serie);
+  /// Adds label, state (0 for a base series), first month (from January of the year 0) and numbers, by their index.
   void addSerie(Json& series, const Serie& serie, std::size_t state);
   void addBaseSeries(Json& series, const Element& element);
 
   const Scenario& scenario_;
   PackedNumbers numbers_;
+  Json kindNames_ = Json::object();
+  Json serieLabels_ = Json::array();
+  std::map<std::pair<std::int32_t, std::int32_t>, std::size_t> labels_; ///< by the ids of kind and unit
 };
 
 void addFigure(Json& figures, const char* label, const std::string& text) {
@@ -68,11 +74,16 @@ void addSettingsFigures(Json& figures, const PrioritySettings& settings) {
 }
 
 Json Gatherer::identityOf(const Element& element) {
-  return {{"key", keyOf(element)},
-          {"id", element.bdId},
-          {"kind", element.getElementType()->id},
-          {"kindName", element.getElementType()->name},
-          {"name", plainText(element.getName())}};
+  const auto& kind = *element.getElementType();
+  kindNames_[std::to_string(kind.id)] = kind.name;
+  return {{"key", keyOf(element)}, {"id", element.bdId}, {"kind", kind.id}, {"name", plainText(element.getName())}};
+}
+
+std::size_t Gatherer::labelOf(const Serie& serie) {
+  const auto [place, isNew] = labels_.try_emplace({serie.getSerieType().id, serie.getUnit().id}, serieLabels_.size());
+  if (isNew)
+    serieLabels_.push_back({serie.getSerieType().name, serie.getUnit().name});
+  return place->second;
 }
 
 void Gatherer::addSerie(Json& series, const Serie& serie, std::size_t state) {
@@ -80,12 +91,8 @@ void Gatherer::addSerie(Json& series, const Serie& serie, std::size_t state) {
     return;
   std::vector<double> values;
   forEachStep(serie, [&values](const Date&, double value) { values.push_back(value); });
-  series.push_back({{"kind", serie.getSerieType().id},
-                    {"name", serie.getSerieType().name},
-                    {"unit", serie.getUnit().name},
-                    {"state", state},
-                    {"begin", {serie.getInterval().getBegin().getYear(), serie.getInterval().getBegin().getMonth()}},
-                    {"numbers", numbers_.add(values)}});
+  const Date& begin = serie.getInterval().getBegin();
+  series.push_back({labelOf(serie), state, begin.getYear() * 12U + begin.getMonth() - 1U, numbers_.add(values)});
 }
 
 void Gatherer::addBaseSeries(Json& series, const Element& element) {
@@ -137,7 +144,7 @@ Json Gatherer::dataOf(const Network& network) {
   Json numbers = Json::array();
   for (const PackedNumbers::Entry& entry : numbers_.entries())
     numbers.push_back({entry.offset, entry.length, entry.count, entry.width, entry.scale, entry.least});
-  return {{"elements", elements}, {"numbers", numbers}};
+  return {{"kindNames", kindNames_}, {"serieLabels", serieLabels_}, {"elements", elements}, {"numbers", numbers}};
 }
 
 /// Inside a script element nothing but "<" could end or change it, and in JSON it stands only in texts.

@@ -1,5 +1,7 @@
 #include "tools/export/report/HtmlText.h"
+#include "tools/export/report/NetworkDrawing.h"
 #include "tools/export/report/ReportParts.h"
+#include "tools/system/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -44,17 +46,43 @@ std::string placeOf(const Fault& fault) {
   return place + (fault.column.empty() ? "" : ", column " + fault.column);
 }
 
-std::string elementOf(const Fault& fault) {
-  const std::string id = fault.id ? std::to_string(*fault.id) : "";
-  return fault.element.empty() || id.empty() ? fault.element + id : fault.element + " (" + id + ")";
-}
+/// Tells which element of the scenario a fault means, for a link to it.
+class Elements {
+public:
+  explicit Elements(const Network& network) {
+    for (const auto& node : network.nodes)
+      add(*node);
+    for (const auto& link : network.links)
+      add(*link);
+  }
 
-void writeFault(FileWriter& out, const Fault& fault, bool saysRemedy) {
-  out.write(fmt::format("<tr><td>{}<td>{}<td>{}{}\n", htmlText(placeOf(fault)), htmlText(elementOf(fault)),
+  /// Name and id; a link where exactly one element has them.
+  [[nodiscard]] std::string textOf(const Fault& fault) const {
+    const std::string id = fault.id ? std::to_string(*fault.id) : "";
+    const std::string text =
+        htmlText(fault.element.empty() || id.empty() ? fault.element + id : fault.element + " (" + id + ")");
+    const auto found = keys_.find({fault.id.value_or(0), fault.element});
+    return fault.id && found != keys_.end() && !found->second.empty()
+               ? fmt::format(R"(<a href="#{}">{}</a>)", found->second, text)
+               : text;
+  }
+
+private:
+  void add(const Element& element) {
+    const auto [place, isNew] = keys_.try_emplace({element.bdId, plainText(element.getName())}, keyOf(element));
+    if (!isNew)
+      place->second.clear();
+  }
+
+  std::map<std::pair<std::uint32_t, std::string>, std::string> keys_; ///< by id and name; empty: several have them
+};
+
+void writeFault(FileWriter& out, const Fault& fault, const Elements& elements, bool saysRemedy) {
+  out.write(fmt::format("<tr><td>{}<td>{}<td>{}{}\n", htmlText(placeOf(fault)), elements.textOf(fault),
                         htmlText(fault.message), saysRemedy ? " " + htmlText(fault.remedy) : ""));
 }
 
-void writeGroup(FileWriter& out, const Faults& faults) {
+void writeGroup(FileWriter& out, const Faults& faults, const Elements& elements) {
   const Fault& first = *faults.front();
   const SeverityWords& words = wordsOf(first.severity);
   const bool isOneRemedy =
@@ -63,10 +91,10 @@ void writeGroup(FileWriter& out, const Faults& faults) {
                         htmlText(titleOf(first.code)), counted(faults.size(), words.name, words.plural)));
   if (isOneRemedy && !first.remedy.empty())
     out.write("<p>" + htmlText(first.remedy) + "</p>\n");
-  out.write("<table><thead><tr><th scope=\"col\">Place<th scope=\"col\">Element<th scope=\"col\">What it "
-            "is</thead>\n<tbody>");
+  out.write("<table><thead><tr><th scope=\"col\">Place<th scope=\"col\">Element<th scope=\"col\">What it is</thead>\n"
+            "<tbody>");
   for (std::size_t index = 0; index < std::min(faults.size(), listed); ++index)
-    writeFault(out, *faults[index], !isOneRemedy);
+    writeFault(out, *faults[index], elements, !isOneRemedy);
   out.write("</tbody></table>\n");
   if (faults.size() > listed)
     out.write(fmt::format("<p>{} more: <code>lagomare check --all</code> lists them.</p>\n", faults.size() - listed));
@@ -91,7 +119,7 @@ std::vector<Faults> groupsOf(const std::vector<Fault>& faults) {
 
 } // namespace
 
-void writeReportFaults(FileWriter& out, const ExportInput& input) {
+void writeReportFaults(FileWriter& out, const ExportInput& input, const Network& network) {
   if (!input.faults)
     return out.write("<p class=\"verdict unknown\">The project was not checked for faults.</p>\n");
   if (input.faults->empty())
@@ -106,8 +134,9 @@ void writeReportFaults(FileWriter& out, const ExportInput& input) {
                             counted(static_cast<std::size_t>(count), words.name, words.plural), words.meaning);
   }
   out.write("<ul class=\"verdict\">\n" + counts + "</ul>\n");
+  const Elements elements(network);
   for (const Faults& group : groupsOf(*input.faults))
-    writeGroup(out, group);
+    writeGroup(out, group, elements);
 }
 
 } // namespace LagomareTools

@@ -15,12 +15,12 @@ std::string named(const Element& element, const std::string& name) {
 }
 
 /// Name, kind and id; an element without a name is called by its id.
-std::string identity(const Element& element) {
+std::string identity(const Element& element, const char* remark = "") {
   const auto& kind = *element.getElementType();
   const std::string& name = element.getName();
-  return fmt::format(R"(<tr data-key="{}"><th scope="row" class="mark kind-{}">{}<td>{}<td class="number">{})",
+  return fmt::format(R"(<tr data-key="{}"><th scope="row" class="mark kind-{}">{}<td>{}{}<td class="number">{})",
                      keyOf(element), kind.id, named(element, name.empty() ? kind.name : name), htmlText(kind.name),
-                     element.bdId);
+                     remark, element.bdId);
 }
 
 std::string endOf(const std::weak_ptr<Node>& end) {
@@ -38,7 +38,7 @@ std::string rowOf(const Scenario& scenario, const Node& node) {
 }
 
 std::string rowOf(const Link& link) {
-  return identity(link) + endOf(link.upstream) + endOf(link.downstream) +
+  return identity(link, link.getIsBidirectional() ? ", two-way" : "") + endOf(link.upstream) + endOf(link.downstream) +
          number(figureText(constantOf(link, SerieType::LinkLimitSerie))) +
          number(figureText(constantOf(link, SerieType::LinkLoss)));
 }

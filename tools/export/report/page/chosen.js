@@ -6,16 +6,12 @@ const showChosen = (() => {
   const title = document.getElementById("chosen-title");
   let turn = 0; // a choice made while another is still being unpacked replaces it
 
-  const nameOf = (element) => element.name || `${element.kindName} ${element.id}`;
+  const kindNameOf = (element) => data.kindNames[element.kind];
+  const nameOf = (element) => element.name || `${kindNameOf(element)} ${element.id}`;
 
   function link(key) {
     const element = elements.get(key);
-    const anchor = make("a", { href: `#${key}` }, nameOf(element));
-    anchor.addEventListener("click", (event) => {
-      event.preventDefault();
-      choose(key);
-    });
-    return anchor;
+    return make("a", { href: `#${key}` }, nameOf(element));
   }
 
   function addFigure(list, label, ...content) {
@@ -48,25 +44,29 @@ const showChosen = (() => {
     return text[0].toUpperCase() + text.slice(1);
   }
 
-  async function linesOf(series) {
+  /** What a chart shows: the series of one name and unit, as [label, state, begin, numbers]. */
+  async function chartOf([name, unit], series) {
     const lines = new Map();
-    for (const serie of series) {
-      const key = `${serie.numbers} ${serie.begin}`;
+    for (const [, state, begin, numbers] of series) {
+      const key = `${numbers} ${begin}`;
       if (!lines.has(key))
-        lines.set(key, { states: [], begin: plots.monthIndexOf(serie.begin), values: await unpack(serie.numbers) });
-      lines.get(key).states.push(serie.state);
+        lines.set(key, { states: [], begin, values: await unpack(numbers) });
+      lines.get(key).states.push(state);
     }
-    const hasStates = series.some((serie) => serie.state > 0);
-    return [...lines.values()].map((line) => ({ ...line, label: hasStates ? labelOf(line.states) : "All months" }));
+    const hasStates = series.some(([, state]) => state > 0);
+    for (const line of lines.values())
+      line.label = hasStates ? labelOf(line.states) : "All months";
+    return { name, unit, lines: [...lines.values()] };
   }
 
-  async function chartsOf(element) {
-    const charts = new Map();
-    for (const serie of element.series)
-      charts.set(serie.kind, [...(charts.get(serie.kind) ?? []), serie]);
-    return Promise.all([...charts.values()].map(async (series) =>
-      ({ title: series[0].name, unit: series[0].unit, lines: await linesOf(series) })));
+  function chartsOf(element) {
+    const labels = [...new Set(element.series.map(([label]) => label))];
+    return Promise.all(labels.map((label) =>
+      chartOf(data.serieLabels[label], element.series.filter((serie) => serie[0] === label))));
   }
+
+  /** One number says it all. */
+  const isFigure = ({ lines }) => lines.length === 1 && plots.isConstant(lines[0]);
 
   return async (key) => {
     const mine = ++turn;
@@ -82,15 +82,17 @@ const showChosen = (() => {
       return;
     plots.clear();
     title.replaceChildren(make("span", { className: `mark kind-${element.kind}` }, nameOf(element)), " ",
-      make("small", {}, `${element.kindName}, id ${element.id}`));
+      make("small", {}, `${kindNameOf(element)}, id ${element.id}`));
     const figures = make("dl", { className: "figures" });
     element.figures.forEach(([label, text]) => addFigure(figures, label, text));
+    for (const { name, unit, lines } of charts.filter(isFigure))
+      addFigure(figures, name, `${figure(lines[0].values[0])} ${unit} in every month`);
     addNeighbours(figures, element);
     const blocks = make("div", { className: "charts" });
     body.replaceChildren(figures, blocks);
     if (problem)
       blocks.append(make("p", { className: "remark" }, problem));
-    for (const { title: name, unit, lines } of charts)
+    for (const { name, unit, lines } of charts.filter((chart) => !isFigure(chart)))
       plots.addSeries(blocks, name, unit, lines);
     if (element.curve)
       plots.addCurve(blocks, element.curve);

@@ -9,7 +9,8 @@ const network = (() => {
   const kilometresPerUnit = Number(svg.dataset.kilometres);
   const room = Number(svg.dataset.room);
   const targets = new Map([...svg.querySelectorAll("[data-key]")].map((target) => [target.dataset.key, target]));
-  const numOfLevels = 8;
+  const numOfLevels = 15;
+  const usualLevel = 2;
 
   function showScale(pixels) {
     if (!bar)
@@ -27,7 +28,7 @@ const network = (() => {
   /** Shows the map at a transform; `fit` is how many pixels wide the drawing shows one of its units. */
   function show(transform, fit) {
     const pixels = fit * transform.k;
-    const level = Math.min(Math.floor(Math.log2(pixels * 2) + 0.05), numOfLevels - 1);
+    const level = Math.min(Math.floor(2 * Math.log2(pixels) + usualLevel + 0.1), numOfLevels - 1);
     for (let step = 0; step < numOfLevels; ++step)
       svg.classList.toggle(`at-${step}`, step <= Math.max(level, 0));
     svg.style.setProperty("--text", 1 / pixels);
@@ -72,6 +73,7 @@ const network = (() => {
     ArrowLeft: [60, 0], ArrowRight: [-60, 0], ArrowUp: [0, 60], ArrowDown: [0, -60],
   };
   svg.setAttribute("tabindex", "0");
+  svg.setAttribute("aria-keyshortcuts", "+ - 0");
   svg.addEventListener("keydown", (event) => {
     if (!(event.key in keys) || event.ctrlKey || event.metaKey || event.altKey)
       return;
@@ -105,7 +107,10 @@ const network = (() => {
 
   return {
     mark(key) {
-      svg.querySelector(".chosen")?.classList.remove("chosen");
+      svg.querySelectorAll(".chosen, .end").forEach((other) => other.classList.remove("chosen", "end"));
+      const { upstream, downstream } = elements.get(key);
+      for (const end of [upstream, downstream]) // a link may be too short to be seen
+        targets.get(`node-${end}`)?.classList.add("end");
       const target = targets.get(key);
       if (!target)
         return;

@@ -10,7 +10,6 @@ const plots = (() => {
   // Its legend would write markup with styles of its own; the tables below are the legend.
   Dygraph.PLUGINS = Dygraph.PLUGINS.filter((plugin) => plugin !== Dygraph.Plugins.Legend);
 
-  const monthIndexOf = ([year, month]) => year * 12 + month - 1;
   const monthText = (index) => `${months[index % 12]} ${Math.floor(index / 12)}`;
 
   function dateOf(monthIndex) {
@@ -142,7 +141,7 @@ const plots = (() => {
   }
 
   return {
-    monthIndexOf,
+    isConstant,
 
     /** Lines: { label, begin: month index, values }. Appends to the container, which is in the page already. */
     addSeries(container, title, unit, lines) {

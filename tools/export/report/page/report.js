@@ -18,6 +18,13 @@ function choose(key) {
 
 (() => {
   document.querySelector("#network .tools").hidden = false;
+  document.addEventListener("click", (event) => {
+    const key = event.target.closest("a")?.getAttribute("href")?.slice(1);
+    if (!elements.has(key))
+      return;
+    event.preventDefault();
+    choose(key);
+  });
   addEventListener("hashchange", () => choose(location.hash.slice(1)));
   const paperWidth = 640; // pixels
   addEventListener("beforeprint", () => plots.resize(paperWidth));

@@ -112,11 +112,8 @@ const tables = (() => {
     part.table.addEventListener("keydown", walk);
     part.table.addEventListener("click", (event) => {
       const row = event.target.closest("tbody tr");
-      if (!row)
-        return;
-      event.preventDefault();
-      setEntry(row);
-      choose(row.dataset.key);
+      if (row && !event.target.closest("a")) // a link is followed as everywhere
+        choose(row.dataset.key);
     });
   }
   section.querySelector("[role=tablist]").addEventListener("keydown", (event) => {
