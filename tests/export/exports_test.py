@@ -28,6 +28,14 @@ update Tk_Res_FEA set VolIni = 0.1 + 0.2, Nome = case NumPonto when 1 then '=1+1
 update Tk_Dem_FEA set Nome = case NumPonto when 11 then 'a;b,"c"' when 12 then ' e ' when 13 then '0123' else '' end;
 """
 
+# More elements than a sheet has columns, and years before the first that a sheet's dates can be in.
+MANY = """
+update Tk_Gerais set DataHoraIni = '1899-07-01', Duracao = 1;
+create temp table many as with recursive n(id) as (select 1000 union all select id + 1 from n limit 16400) select id from n;
+insert into Tk_Pas_FEA select id, 'Foz ' || id, 500000, 8000000 from many;
+insert into LgmVazNat select id, 1, id / 7.0 from many;
+"""
+
 
 def first_value(element, kind):
     return next((serie["values"][0] for serie in element["series"] if serie["kind"] == kind and serie["values"]), None)
@@ -201,13 +209,30 @@ def cells(sheet):
     return [list(row) for row in sheet.iter_rows(values_only=True)]
 
 
-def check_workbook(file, document, expected):
-    def empty_as_none(row):
-        return [None if value == "" else value for value in row]
+def empty_as_none(row):
+    return [None if value == "" else value for value in row]
 
+
+def sheet_date(text):
+    """Days that spreadsheet programs do not agree about are texts."""
+    return text if text < "1900-03" else datetime.datetime.fromisoformat(text)
+
+
+def check_wide_sheet(sheet, suffix, columns):
+    series = [serie for _, serie in columns]
+    fill = [None] * (len(columns) - 1)
+    dates = [sheet_date(month) for month in months(series[0]["begin"], len(series[0]["values"]))]
+    same(cells(sheet),
+         [["series", series[0]["name"] + suffix] + fill, ["unit", series[0]["unit"]] + fill,
+          ["id"] + [element["id"] for element, _ in columns],
+          empty_as_none(["name"] + [element["name"] for element, _ in columns])]
+         + [list(row) for row in zip(dates, *(serie["values"] for serie in series))], sheet.title)
+    assert sheet.freeze_panes == "B5"
+
+
+def check_workbook(file, document, expected):
     workbook = openpyxl.load_workbook(file)
-    as_dates = [datetime.datetime.fromisoformat(value) if 0 < at < 3 else value
-                for at, value in enumerate(expected["scenario"][0])]
+    as_dates = [sheet_date(value) if 0 < at < 3 else value for at, value in enumerate(expected["scenario"][0])]
     same(cells(workbook["scenario"]),
          [[name, value, None] for name, value in zip(HEADS["scenario"], as_dates)] + [[None] * 3, HEADS["states"]]
          + expected["states"], "scenario")
@@ -220,20 +245,13 @@ def check_workbook(file, document, expected):
     for element, serie, state in all_series(document):
         if serie["values"]:
             wide.setdefault((serie["kind"], state), []).append((element, serie))
-    suffix = {state: f", state {state}" if state else "" for _, state in wide}
-    assert workbook.sheetnames == ["scenario", "nodes", "links", "curves"] + [names[kind] + suffix[state]
-                                                                              for kind, state in sorted(wide)]
-    for (kind, state), columns in wide.items():
-        sheet = workbook[names[kind] + suffix[state]]
-        series = [serie for _, serie in columns]
-        fill = [None] * (len(columns) - 1)
-        dates = [datetime.datetime.fromisoformat(month) for month in months(series[0]["begin"], len(series[0]["values"]))]
-        same(cells(sheet),
-             [["series", series[0]["name"] + suffix[state]] + fill, ["unit", series[0]["unit"]] + fill,
-              ["id"] + [element["id"] for element, _ in columns],
-              empty_as_none(["name"] + [element["name"] for element, _ in columns])]
-             + [list(row) for row in zip(dates, *(serie["values"] for serie in series))], sheet.title)
-        assert sheet.freeze_panes == "B5"
+    sheets = []
+    for (kind, state), columns in sorted(wide.items(), key=lambda item: item[0]):
+        suffix = f", state {state}" if state else ""
+        for part, first in enumerate(range(0, len(columns), 16383), 1):
+            sheets.append(names[kind] + suffix + (f" ({part})" if part > 1 else ""))
+            check_wide_sheet(workbook[sheets[-1]], suffix, columns[first:first + 16383])
+    assert workbook.sheetnames == ["scenario", "nodes", "links", "curves"] + sheets
     formulas = [cell for sheet in workbook for row in sheet.iter_rows() for cell in row if cell.data_type == "f"]
     assert formulas == [], formulas
 
@@ -257,9 +275,9 @@ def check(lagomare, project, folder):
 with tempfile.TemporaryDirectory() as temporary:
     lagomare, *projects = sys.argv[1:]
     for number, project in enumerate(projects):
-        changes = ["", ODD] if project.endswith("2013.sql") else [""]
-        for change in changes:
-            folder = pathlib.Path(temporary, f"{number}{'-odd' if change else ''}")
+        changes = ["", ODD, MANY] if project.endswith("2013.sql") else [""]
+        for variant, change in enumerate(changes):
+            folder = pathlib.Path(temporary, f"{number}-{variant}")
             folder.mkdir()
             if project.endswith(".sql"):
                 database = sqlite3.connect(folder / "project.db")

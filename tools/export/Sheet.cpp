@@ -72,8 +72,18 @@ private:
 };
 
 void Sheet::add(const Cell& cell, CellStyle style) {
-  std::visit(Put{*this, style == CellStyle::head ? formats_.head : nullptr}, cell);
+  std::visit(Put{*this, formatOf(style)}, cell);
   ++column_;
+}
+
+lxw_format* Sheet::formatOf(CellStyle style) const {
+  if (style == CellStyle::plain)
+    return nullptr;
+  return style == CellStyle::textHead ? formats_.textHead : formats_.numberHead;
+}
+
+void Sheet::setHeight(std::size_t lines) {
+  require(worksheet_set_row(sheet_, row_, LXW_DEF_ROW_HEIGHT * static_cast<double>(lines), nullptr));
 }
 
 void Sheet::endRow() {

@@ -11,7 +11,8 @@ struct lxw_worksheet;
 
 namespace LagomareTools {
 
-enum class CellStyle { plain, head };
+/// A head stands above texts or above numbers.
+enum class CellStyle { plain, textHead, numberHead };
 
 /// A sheet of a Workbook, which owns what it writes to. Written cell by cell: from the top, each row from the left.
 class Sheet {
@@ -19,7 +20,8 @@ public:
   static constexpr std::size_t mostColumns = 16384;
 
   struct Formats {
-    lxw_format* head;
+    lxw_format* textHead;
+    lxw_format* numberHead;
     lxw_format* month;
   };
   Sheet(lxw_worksheet* sheet, const Formats& formats) : sheet_(sheet), formats_(formats) {}
@@ -28,6 +30,8 @@ public:
   /// neither empty nor a real number, and after a real number only numbers and empty cells follow; std::logic_error
   /// otherwise. Throws Failure.
   void add(const Cell& cell, CellStyle style = CellStyle::plain);
+  /// Makes the row that begins so many lines of text high.
+  void setHeight(std::size_t lines);
   void endRow();
 
   /// Keeps rows at the top and columns at the left in sight.
@@ -39,6 +43,8 @@ public:
 
 private:
   struct Put;
+
+  [[nodiscard]] lxw_format* formatOf(CellStyle style) const;
 
   lxw_worksheet* sheet_;
   Formats formats_;

@@ -17,11 +17,11 @@ lxw_workbook* newWorkbook(const std::filesystem::path& file) {
   return workbook;
 }
 
-lxw_format* headFormat(lxw_workbook* workbook) {
+lxw_format* headFormat(lxw_workbook* workbook, lxw_format_alignments alignment) {
   lxw_format* const format = workbook_add_format(workbook);
   format_set_bold(format);
   format_set_text_wrap(format);
-  format_set_align(format, LXW_ALIGN_LEFT);
+  format_set_align(format, static_cast<std::uint8_t>(alignment));
   format_set_align(format, LXW_ALIGN_VERTICAL_TOP);
   return format;
 }
@@ -36,7 +36,8 @@ lxw_format* monthFormat(lxw_workbook* workbook) {
 } // namespace
 
 Workbook::Workbook(const std::filesystem::path& file)
-    : workbook_(newWorkbook(file)), formats_{headFormat(workbook_), monthFormat(workbook_)} {}
+    : workbook_(newWorkbook(file)), formats_{headFormat(workbook_, LXW_ALIGN_LEFT),
+                                             headFormat(workbook_, LXW_ALIGN_RIGHT), monthFormat(workbook_)} {}
 
 Workbook::~Workbook() {
   if (workbook_ != nullptr)

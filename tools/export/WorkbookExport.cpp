@@ -11,12 +11,17 @@ namespace LagomareTools {
 namespace {
 
 constexpr double dateWidth = 11; // in characters, as the other widths
-constexpr double numberWidth = 14;
+constexpr double numberWidth = 12;
+constexpr double serieWidth = 16;
 constexpr double mostWidth = 40;
+constexpr std::size_t charactersPerLine = 10; ///< of a bold name that breaks between words, in a column of a series
+constexpr std::size_t mostLines = 4;
 
-double widthOf(const Cell& cell) {
-  const auto* const text = std::get_if<std::string>(&cell);
-  return text == nullptr ? numberWidth : std::clamp(static_cast<double>(text->size()), numberWidth, mostWidth);
+/// Rather too wide than too narrow: counts bytes.
+double widthOf(std::string_view text) { return std::min(static_cast<double>(text.size()) + 3, mostWidth); }
+
+CellStyle headStyleOf(ColumnType type) {
+  return type == ColumnType::integer || type == ColumnType::real ? CellStyle::numberHead : CellStyle::textHead;
 }
 
 void addRow(Sheet& sheet, const std::vector<Cell>& cells) {
@@ -27,7 +32,7 @@ void addRow(Sheet& sheet, const std::vector<Cell>& cells) {
 
 void addHead(Sheet& sheet, const Table& table) {
   for (const Column& column : table.columns)
-    sheet.add(std::string(column.name), CellStyle::head);
+    sheet.add(std::string(column.name), headStyleOf(column.type));
   sheet.endRow();
 }
 
@@ -35,7 +40,7 @@ void addHead(Sheet& sheet, const Table& table) {
 void addUpright(Sheet& sheet, const Table& table, const ExportInput& input) {
   table.forEachRow(input, [&](const std::vector<Cell>& cells, const Line&) {
     for (std::size_t column = 0; column < cells.size(); ++column) {
-      sheet.add(std::string(table.columns[column].name), CellStyle::head);
+      sheet.add(std::string(table.columns[column].name), CellStyle::textHead);
       sheet.add(cells[column]);
       sheet.endRow();
     }
@@ -49,17 +54,20 @@ void writeScenarioSheet(Workbook& workbook, const ExportInput& input) {
   addHead(sheet, statesTable);
   statesTable.forEachRow(input, [&sheet](const std::vector<Cell>& cells, const Line&) { addRow(sheet, cells); });
   sheet.setWidth(0, 0, numberWidth);
-  sheet.setWidth(1, 2, numberWidth + dateWidth);
+  sheet.setWidth(1, 2, 2 * numberWidth);
 }
 
 void writeTableSheet(Workbook& workbook, const Table& table, const ExportInput& input) {
   Sheet& sheet = workbook.addSheet(table.name);
   sheet.freeze(1, 0);
   addHead(sheet, table);
-  std::vector<double> widths(table.columns.size(), numberWidth);
+  std::vector<double> widths;
+  for (const Column& column : table.columns)
+    widths.push_back(std::max(widthOf(column.name), column.type == ColumnType::real ? numberWidth : 0));
   table.forEachRow(input, [&](const std::vector<Cell>& cells, const Line&) {
-    std::transform(cells.begin(), cells.end(), widths.begin(), widths.begin(),
-                   [](const Cell& cell, double width) { return std::max(width, widthOf(cell)); });
+    for (std::size_t column = 0; column < cells.size(); ++column)
+      if (const auto* const text = std::get_if<std::string>(&cells[column]))
+        widths[column] = std::max(widths[column], widthOf(*text));
     addRow(sheet, cells);
   });
   for (std::size_t column = 0; column < widths.size(); ++column)
@@ -116,9 +124,9 @@ Interval periodOf(const ElementSeries& series) {
 /// A row of the sheet's head: what it is, then a cell for each of the series.
 template <typename CellOf>
 void addHeadRow(Sheet& sheet, const char* label, const ElementSeries& series, CellOf cellOf) {
-  sheet.add(std::string(label), CellStyle::head);
+  sheet.add(std::string(label), CellStyle::textHead);
   for (const ElementSerie& entry : series)
-    sheet.add(cellOf(entry), CellStyle::head);
+    sheet.add(cellOf(entry), CellStyle::numberHead);
   sheet.endRow();
 }
 
@@ -126,11 +134,15 @@ void addSheetHead(Sheet& sheet, const SheetKey& key, const ElementSeries& series
   const Serie& first = *series.front().serie;
   for (const auto& [label, text] : {std::pair("series", first.getSerieType().name + stateSuffix(key.second)),
                                     std::pair("unit", first.getUnit().name)}) {
-    sheet.add(std::string(label), CellStyle::head);
+    sheet.add(std::string(label), CellStyle::textHead);
     sheet.add(text);
     sheet.endRow();
   }
+  std::size_t longest = 0;
+  for (const ElementSerie& entry : series)
+    longest = std::max(longest, entry.element->getName().size());
   addHeadRow(sheet, "id", series, [](const ElementSerie& entry) { return Cell(std::int64_t{entry.element->bdId}); });
+  sheet.setHeight(std::min(longest / charactersPerLine + 1, mostLines));
   addHeadRow(sheet, "name", series,
              [](const ElementSerie& entry) { return Cell(plainText(entry.element->getName())); });
 }
@@ -139,7 +151,7 @@ void writeSeriesSheet(Sheet& sheet, const SheetKey& key, const ElementSeries& se
   addSheetHead(sheet, key, series);
   sheet.freeze(4, 1);
   sheet.setWidth(0, 0, dateWidth);
-  sheet.setWidth(1, series.size(), numberWidth);
+  sheet.setWidth(1, series.size(), serieWidth);
   const Interval period = periodOf(series);
   for (Date month = period.getBegin(); month <= period.getEnd(); month += Calendar::incInterval(month, period)) {
     sheet.add(month);
