@@ -26,7 +26,7 @@ TEST_F(ImportCommandTest, TellsWhatWasFound) {
                         "  drains                1\n"
                         "  junctions             1\n"
                         "  links                 4 (3 natural, 1 artificial; 1 bidirectional)\n");
-  EXPECT_THAT(import({project2010(), "--utm-zone", "24n"}).out,
+  EXPECT_THAT(import({project2010(), "--utm-zone", "24p"}).out,
               AllOf(HasSubstr("2010 (found"), HasSubstr("  24N\n"), HasSubstr("  none (Sem)\n")));
   EXPECT_EQ(import({"basin.db", "--quiet"}).out, "");
 }
@@ -45,7 +45,7 @@ TEST_F(ImportCommandTest, RefusedAndInvalidProjectsHaveCodesAndShortObjectsOfThe
   EXPECT_EQ(nlohmann::json::parse(readFile("short.json"))["message"], "Projeto inválido");
 }
 
-TEST_F(ImportCommandTest, SaysWhatIsOffInTheCall) {
+TEST_F(ImportCommandTest, UsageErrorsHaveACodeOfTheirOwn) {
   project();
   const std::vector<std::vector<std::string>> calls{{},
                                                     {"basin.db", "more"},
@@ -55,9 +55,12 @@ TEST_F(ImportCommandTest, SaysWhatIsOffInTheCall) {
                                                     {"basin.db", "--json", "a", "--json", "b"},
                                                     {"basin.db", "--quiet", "--quiet"},
                                                     {"basin.db", "--utm-zone", "61S"},
+                                                    {"basin.db", "--utm-zone", "0S"},
                                                     {"basin.db", "--utm-zone", "23"},
+                                                    {"basin.db", "--utm-zone", "23I"},
                                                     {"basin.db", "--dialect", "2011"},
                                                     {"basin.db", "--json", "-", "--geojson", "-"},
+                                                    {"basin.db", "--csv", "-"},
                                                     {"basin.db", "--json", "a", "--geojson", "./a"},
                                                     {"basin.db", "--json", "d/links.csv", "--csv", "d"},
                                                     {"basin.db", "--geojson", "basin.db"}};
@@ -68,6 +71,17 @@ TEST_F(ImportCommandTest, SaysWhatIsOffInTheCall) {
     EXPECT_EQ(ending.out, "");
   }
   EXPECT_EQ(run({LAGOMARE}).exitCode, 2);
+}
+
+TEST_F(ImportCommandTest, NamesUnexpectedWordsInTheirOrderAndWhatWasMeant) {
+  const std::vector<std::pair<std::vector<std::string>, std::string>> calls{
+      {{LAGOMARE, "x.mdb"}, "\"x.mdb\"; did you mean: lagomare import x.mdb?"},
+      {{LAGOMARE, "imprt", "x.mdb"}, "did you mean: lagomare import?"},
+      {{LAGOMARE, "import", "x.mdb", "--jsn=a", "b"}, "\"--jsn=a\" \"b\"; did you mean --json?"},
+      {{LAGOMARE, "import", "a", "b", "c"}, "unexpected words: \"b\" \"c\"; one project at a time"},
+      {{LAGOMARE, "--json", "a", "import", "b"}, "the command comes first"}};
+  for (const auto& [words, text] : calls)
+    EXPECT_THAT(run(words).err, HasSubstr(text));
 }
 
 TEST_F(ImportCommandTest, HelpShowsAnExample) {
@@ -93,5 +107,26 @@ TEST_F(ImportCommandTest, AClosedOrFullStandardOutputIsAnError) {
       EXPECT_EQ(
           run({"/bin/sh", "-c", "exec '" LAGOMARE "' import basin.db --csv tables " + json + redirection}).exitCode, 1);
   EXPECT_FALSE(fs::exists("tables"));
-  EXPECT_EQ(run({"/bin/sh", "-c", "exec '" LAGOMARE "' import basin.db --quiet >&-"}).exitCode, 0);
+  EXPECT_EQ(run({"/bin/sh", "-c", "exec '" LAGOMARE "' import basin.db --quiet --json out <&- >&- 2>&-"}).exitCode, 0);
+  EXPECT_THAT(readFile("out"), HasSubstr("Açude Velho"));
+}
+
+TEST_F(ImportCommandTest, EndsSilentlyWhenTheReaderOfStandardOutputHasGone) {
+  project();
+  std::vector<std::string> words{"/usr/bin/perl", "-e", "pipe(R, W); close R; open(STDOUT, '>&W'); exec @ARGV"};
+  for (const std::string& word : importing({"basin.db", "--csv", "tables", "--json", "-"}))
+    words.push_back(word);
+  const Ending ending = run(words);
+  EXPECT_EQ(ending.exitCode, -1); // by SIGPIPE
+  EXPECT_EQ(ending.err, "");
+  EXPECT_FALSE(fs::exists("tables"));
+}
+
+TEST_F(ImportCommandTest, WarnsOfALockFile) {
+  project("", "basin.mdb");
+  EXPECT_EQ(import({"basin.mdb"}).err, "");
+  writeFile("basin.ldb", "");
+  const Ending ending = import({"basin.mdb"});
+  EXPECT_EQ(ending.exitCode, 0);
+  EXPECT_THAT(ending.err, AllOf(StartsWith("lagomare: warning: basin.mdb: "), HasSubstr("basin.ldb")));
 }

@@ -59,6 +59,12 @@ TEST_F(OutputsTest, WhenOneFileCannotBeReplacedTheOthersAreNotEither) {
 }
 
 TEST_F(OutputsTest, AFileThatGrowsTooLargeIsAnError) {
+  const std::string full = executable("> \"${0%/*}/begun\"");
+  EXPECT_EQ(run({"/bin/sh", "-c",
+                 "ulimit -f 0; exec '" LAGOMARE "' import basin.db --json new --query-executable \"$0\"", full})
+                .exitCode,
+            1);
+  EXPECT_FALSE(fs::exists("begun")); // a full disk is found before the import starts
   const Ending ending = run({"/bin/sh", "-c", "ulimit -f 8; exec '" LAGOMARE "' import basin.db --csv tables"});
   EXPECT_EQ(ending.exitCode, 1);
   EXPECT_THAT(ending.err, HasSubstr("File too large"));

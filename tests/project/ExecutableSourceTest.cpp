@@ -68,14 +68,22 @@ TEST_F(ExecutableSourceTest, WhatAQueryLeavesRunningEndsWithIt) {
   EXPECT_TRUE(alive.awaitEnd());
 }
 
-TEST_F(ExecutableSourceTest, AProjectThatChangesWhileItIsReadIsAnError) {
+TEST_F(ExecutableSourceTest, ChildrenThatTheProgramHadBeforeLiveOn) {
   project();
-  const Ending ending =
-      importBy("answer \"$@\"; case \"$2\" in *LgmResPrior) touch -t 203001010000 \"${0%/*}/basin.db\";; esac",
-               {"--json", "out.json"});
-  EXPECT_EQ(ending.exitCode, 1);
-  EXPECT_THAT(ending.err, HasSubstr("basin.db: was changed while it was read"));
-  EXPECT_FALSE(fs::exists("out.json"));
+  executable("answer \"$@\"");
+  EXPECT_EQ(run({"/bin/sh", "-c",
+                 "sleep 1000 & echo $! > pid; exec '" LAGOMARE "' import basin.db --query-executable 'own query'"})
+                .exitCode,
+            0);
+  const pid_t child = std::stoi(readFile("pid"));
+  EXPECT_EQ(::kill(child, SIGKILL), 0);
+}
+
+TEST_F(ExecutableSourceTest, ControlCharactersInNamesBecomeBlanks) {
+  project();
+  EXPECT_EQ(importBy("answer \"$@\"; sed -i 's/Canal/Ca\\tn\\x1Bal/' query-result.txt", {"--csv", "tables"}).exitCode,
+            0);
+  EXPECT_THAT(readFile("tables/links.csv"), HasSubstr(",Ca n al,"));
 }
 
 TEST_F(ExecutableSourceTest, TheExecutableHearsSignalsAsUsual) {

@@ -5,6 +5,8 @@
 
 #include <cstdio>
 #include <new>
+#include <string>
+#include <variant>
 
 namespace {
 
@@ -37,7 +39,8 @@ int main(int argumentCount, char** arguments) {
   } catch (const ReaderHasGone&) {
     endAsReaderHasGone();
   } catch (const UsageError& error) {
-    printError(std::string(error.what()) + " (see lagomare import --help)");
+    const std::string command = argumentCount > 1 && arguments[1] == std::string("check") ? "check" : "import";
+    printError(std::string(error.what()) + " (see lagomare " + command + " --help)");
     return usageError;
   } catch (const std::bad_alloc&) {
     printError("there is not enough memory");

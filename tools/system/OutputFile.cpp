@@ -18,6 +18,12 @@ fs::path resolved(const std::string& name) {
   return path;
 }
 
+TemporaryPlace::~TemporaryPlace() {
+  std::error_code ignored;
+  if (!path.empty())
+    fs::remove(path, ignored);
+}
+
 OutputFile::OutputFile(const std::string& name) : name_(name) {
   if (name == standardOutput) {
     writer_.emplace(stdout, "standard output");
@@ -40,14 +46,6 @@ OutputFile::OutputFile(const std::string& name) : name_(name) {
     failBySystem();
 }
 
-OutputFile::~OutputFile() {
-  file_.reset();
-  std::error_code ignored;
-  for (const fs::path& path : {temporary_, replaced_})
-    if (!path.empty())
-      fs::remove(path, ignored);
-}
-
 void OutputFile::openDirectly() {
   file_ = openFile(place_, "wb");
   if (file_ == nullptr)
@@ -59,16 +57,16 @@ void OutputFile::openDirectly() {
 void OutputFile::openBeside(fs::perms permissions) {
   std::random_device random;
   do {
-    temporary_ = place_.parent_path() / (".lagomare-" + std::to_string(random()));
-    file_ = openFile(temporary_, "wbx"); // with the permissions that new files of this user have
+    temporary_.path = place_.parent_path() / (".lagomare-" + std::to_string(random()));
+    file_ = openFile(temporary_.path, "wbx"); // with the permissions that new files of this user have
   } while (file_ == nullptr && errno == EEXIST);
   if (file_ == nullptr) {
-    temporary_.clear();
+    temporary_.path.clear();
     throw Failure("cannot write " + name_ + ": its folder takes no new file: " + systemText(errno));
   }
   std::error_code error;
   if (permissions != fs::perms::unknown)
-    fs::permissions(temporary_, permissions, error);
+    fs::permissions(temporary_.path, permissions, error);
   if (error)
     fail(error);
   writer_.emplace(file_.get(), name_);
@@ -81,26 +79,26 @@ void OutputFile::checkRoom() {
   if (std::fwrite(block.data(), 1, block.size(), file_.get()) != block.size() || std::fflush(file_.get()) != 0)
     failBySystem();
   std::error_code error;
-  fs::resize_file(temporary_, 0, error);
+  fs::resize_file(temporary_.path, 0, error);
   if (error)
     fail(error);
   std::rewind(file_.get());
 }
 
 const fs::path& OutputFile::path() {
-  if (temporary_.empty())
+  if (temporary_.path.empty())
     return place_;
   writer_.reset(); // some systems let only one writer open a file
   file_.reset();
-  return temporary_;
+  return temporary_.path;
 }
 
 void OutputFile::finish() {
   if (writer_)
     writer_->flush();
-  if (!temporary_.empty()) {
+  if (!temporary_.path.empty()) {
     if (file_ == nullptr)
-      file_ = openFile(temporary_, "r+b");
+      file_ = openFile(temporary_.path, "r+b");
     if (file_ == nullptr || !flushToDisk(file_.get()))
       failBySystem();
   }
@@ -110,18 +108,18 @@ void OutputFile::finish() {
 }
 
 void OutputFile::commit() {
-  if (!isFinished_ || temporary_.empty())
+  if (!isFinished_ || temporary_.path.empty())
     return;
-  replaced_ = temporary_;
-  replaced_ += "~";
+  replaced_.path = temporary_.path;
+  replaced_.path += "~";
   std::error_code error;
-  fs::create_hard_link(place_, replaced_, error);
+  fs::create_hard_link(place_, replaced_.path, error);
   const bool isKept = !error;
   const bool isNew = error == std::errc::no_such_file_or_directory;
-  fs::rename(temporary_, place_, error);
+  fs::rename(temporary_.path, place_, error);
   if (error)
     fail(error);
-  temporary_.clear();
+  temporary_.path.clear();
   undo_ = isKept ? Undo::putOldBack : isNew ? Undo::remove : Undo::nothing;
 }
 
@@ -130,7 +128,7 @@ void OutputFile::restore() noexcept {
   if (undo_ == Undo::remove)
     fs::remove(place_, ignored);
   else if (undo_ == Undo::putOldBack)
-    fs::rename(replaced_, place_, ignored);
+    fs::rename(replaced_.path, place_, ignored);
   undo_ = Undo::nothing;
 }
 

@@ -10,6 +10,16 @@
 
 namespace LagomareTools {
 
+/// The place of a file that is removed when this object goes; empty if there is none.
+struct TemporaryPlace {
+  TemporaryPlace() = default;
+  ~TemporaryPlace();
+  TemporaryPlace(const TemporaryPlace&) = delete;
+  TemporaryPlace& operator=(const TemporaryPlace&) = delete;
+
+  std::filesystem::path path;
+};
+
 /// A file that is complete or as it was before: written beside its place, then renamed. A symbolic link is followed.
 /// What is no ordinary file, such as a device or a pipe, is written directly, and so is standard output.
 class OutputFile {
@@ -18,9 +28,6 @@ public:
 
   /// Opens it for writing, so that as many faults as possible show before the work begins. Throws Failure.
   explicit OutputFile(const std::string& name);
-  ~OutputFile();
-  OutputFile(const OutputFile&) = delete;
-  OutputFile& operator=(const OutputFile&) = delete;
 
   [[nodiscard]] FileWriter& writer() { return *writer_; }
   /// Where a library that opens files itself can write the content, in place of writer(): an empty file at first. Not
@@ -42,10 +49,10 @@ private:
   [[noreturn]] void fail(std::error_code error) const;
   [[noreturn]] void failBySystem() const;
 
-  std::string name_;                ///< as it was given, for messages
-  std::filesystem::path place_;     ///< where the file belongs
-  std::filesystem::path temporary_; ///< where it is written; empty if it is written directly
-  std::filesystem::path replaced_;  ///< a second name of the old file, while it may be needed again
+  std::string name_;            ///< as it was given, for messages
+  std::filesystem::path place_; ///< where the file belongs
+  TemporaryPlace temporary_;    ///< where it is written; empty if it is written directly
+  TemporaryPlace replaced_;     ///< a second name of the old file, while it may be needed again
   FilePointer file_;
   std::optional<FileWriter> writer_;
   bool isFinished_ = false;

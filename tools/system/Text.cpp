@@ -9,14 +9,14 @@ namespace {
 constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view replacement = "\xEF\xBF\xBD"; // U+FFFD
 
-/// Whether the second byte fits the first: no overlong form, no surrogate, nothing above U+10FFFF.
+/// Whether the second byte is valid after the first: no overlong form, no surrogate, nothing above U+10FFFF.
 bool isSecondByte(unsigned lead, unsigned second) {
   const unsigned lowest = lead == 0xE0 ? 0xA0U : lead == 0xF0 ? 0x90U : 0x80U;
   const unsigned highest = lead == 0xED ? 0x9FU : lead == 0xF4 ? 0x8FU : 0xBFU;
   return second >= lowest && second <= highest;
 }
 
-/// Bytes of the character that a text, not empty, begins with; 0 where it begins with none.
+/// How many bytes the first character of a text has; 0 if it is invalid. The text is not empty.
 std::size_t characterLength(std::string_view text) {
   const auto byte = [text](std::size_t index) {
     return static_cast<unsigned>(static_cast<unsigned char>(text[index]));
@@ -33,7 +33,7 @@ std::size_t characterLength(std::string_view text) {
   return length;
 }
 
-/// Calls visit(character) for each character, and with an empty one after a byte that is none: visit(character, byte).
+/// Calls visit(character, first byte) for each character, with an empty character for an invalid byte.
 template <typename Visit>
 void forEachCharacter(std::string_view text, Visit visit) {
   while (!text.empty()) {
@@ -65,7 +65,12 @@ std::string escaped(std::string_view bytes) {
 std::string plainText(std::string_view text) {
   std::string plain;
   forEachCharacter(text, [&plain](std::string_view character, unsigned char) {
-    plain += character.empty() ? replacement : character == noBreakSpace ? " " : character;
+    if (character.empty())
+      plain += replacement;
+    else if (character == noBreakSpace || isControl(character))
+      plain += ' ';
+    else
+      plain += character;
   });
   return plain;
 }

@@ -5,15 +5,15 @@
 
 namespace LagomareTools {
 
-/// A text as people see it: the query channel's no-break spaces (U+00A0) are plain blanks again, and bytes that are no
-/// UTF-8 are U+FFFD.
+/// Returns a text as people see it: the query channel's no-break spaces (U+00A0) and control characters become plain
+/// blanks, invalid bytes U+FFFD.
 [[nodiscard]] std::string plainText(std::string_view text);
 
-/// A text of any bytes on one line, harmless on a terminal: control characters and bytes that are no UTF-8 are
-/// escaped, no-break spaces are plain blanks.
+/// Returns any text on one line that is harmless on a terminal: control characters and invalid bytes are escaped,
+/// no-break spaces become plain blanks.
 [[nodiscard]] std::string oneLine(std::string_view text);
 
-/// The beginning of a text that may be very long, for messages.
+/// Returns the beginning of a text that may be very long, for messages.
 [[nodiscard]] std::string excerpt(const std::string& text);
 
 } // namespace LagomareTools
