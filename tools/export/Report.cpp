@@ -24,7 +24,7 @@ void writePart(FileWriter& out, std::string_view name, const ExportInput& input,
   else if (name == "faults")
     writeReportFaults(out, input, network);
   else if (name == "network")
-    writeNetworkDrawing(out, scenario, network);
+    writeNetworkDrawing(out, network);
   else if (name == "tables")
     writeReportTables(out, scenario, network);
   else if (name == "data")

@@ -3,6 +3,7 @@
 #include "tools/export/report/HtmlText.h"
 #include "tools/export/report/KindLook.h"
 #include "tools/export/report/LabelPlacer.h"
+#include "tools/export/report/LinkLine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr std::size_t longestLabel = 26;
 constexpr double shortestArrowLink = 26.0; ///< pixels; on a shorter link an arrow head would hide it
-constexpr double bow = 16.0;               ///< how far links beside each other keep apart
 constexpr double usualScaleBar = 130.0;
 
 std::string titleOf(const Element& element) {
@@ -30,31 +30,10 @@ std::string shownLevels() {
   return classes;
 }
 
-/// A link from one place to another, bowed where others join the same two.
-struct LinkLine {
-  MapPoint begin;
-  MapPoint bend;
-  MapPoint end;
-
-  [[nodiscard]] double length() const { return std::hypot(end.x - begin.x, end.y - begin.y); }
-  [[nodiscard]] double angle() const { return std::atan2(end.y - begin.y, end.x - begin.x) * 180 / std::acos(-1.0); }
-  [[nodiscard]] MapPoint middle() const {
-    return {(begin.x + 2 * bend.x + end.x) / 4, (begin.y + 2 * bend.y + end.y) / 4};
-  }
-  [[nodiscard]] std::string path(bool isStraight) const {
-    const std::string start = fmt::format("M{:.1f} {:.1f}", begin.x, begin.y);
-    if (length() < 0.1)
-      return start + "c16-24-16-24 0 0"; // to itself: a loop
-    return start + (isStraight ? "L" : fmt::format("Q{:.1f} {:.1f} ", bend.x, bend.y)) +
-           fmt::format("{:.1f} {:.1f}", end.x, end.y);
-  }
-};
-
 class Drawing {
 public:
-  Drawing(FileWriter& out, const Scenario& scenario, const Network& network)
-      : out_(out), scenario_(scenario), network_(network), map_(network), labels_(network.nodes.size(), map_.height()) {
-  }
+  Drawing(FileWriter& out, const Network& network)
+      : out_(out), network_(network), map_(network), labels_(network.nodes.size(), map_.height()) {}
 
   void write();
 
@@ -68,7 +47,6 @@ private:
   [[nodiscard]] double weightOf(const Node& node) const;
 
   FileWriter& out_;
-  const Scenario& scenario_;
   const Network& network_;
   NetworkMap map_;
   LabelPlacer labels_;
@@ -124,20 +102,13 @@ void Drawing::placeLabels() {
 void Drawing::writeLink(const Link& link) {
   const Node* const upstream = link.upstream.lock().get();
   const Node* const downstream = link.downstream.lock().get();
-  const MapPoint begin = *map_.find(upstream);
-  const MapPoint end = *map_.find(downstream);
-  const unsigned place = linksBetween_[std::minmax(upstream->bdId, downstream->bdId)]++;
-  const double side =
-      (place % 2 == 0 ? -1.0 : 1.0) * (upstream->bdId < downstream->bdId ? 1.0 : -1.0) * ((place + 1) / 2) * 2 * bow;
-  LinkLine line{begin, {}, end};
-  const double length = std::max(line.length(), 0.1);
-  line.bend = {(begin.x + end.x) / 2 - side * (end.y - begin.y) / length,
-               (begin.y + end.y) / 2 + side * (end.x - begin.x) / length};
+  const int side = LinkLine::sideOf(linksBetween_[std::minmax(upstream->bdId, downstream->bdId)]++);
+  const LinkLine line(*map_.find(upstream), *map_.find(downstream), upstream->bdId < downstream->bdId ? side : -side);
   unsigned level = 0;
   while (level < numOfMapLevels && line.length() * pixelsPerUnit(level) < shortestArrowLink)
     ++level;
   const MapPoint middle = line.middle();
-  const std::string path = line.path(place == 0);
+  const std::string path = line.path();
   out_.write(fmt::format(
       R"svg(<g data-key="{}" class="link kind-{}"><title>{}</title><path class="reach" d="{}"/><path class="line" d="{}"/>
 <g transform="translate({:.1f} {:.1f}) rotate({:.0f})"><path class="arrow from-{}" d="{}"/></g></g>
@@ -220,9 +191,7 @@ network: {}, {}. The tables of elements say the same in words." data-room="{:.4g
 
 } // namespace
 
-void writeNetworkDrawing(FileWriter& out, const Scenario& scenario, const Network& network) {
-  Drawing(out, scenario, network).write();
-}
+void writeNetworkDrawing(FileWriter& out, const Network& network) { Drawing(out, network).write(); }
 
 std::string keyOf(const Element& element) {
   return (dynamic_cast<const Link*>(&element) != nullptr ? "link-" : "node-") + std::to_string(element.bdId);

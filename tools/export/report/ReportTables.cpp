@@ -68,8 +68,8 @@ void writeReportTables(FileWriter& out, const Scenario& scenario, const Network&
               {"Id", "", true},
               {"Priority", "", true},
               {"Maximum volume", "hm³", true},
-              {"Natural flow, mean", "m³/s", true},
-              {"Demand, mean", "m³/s", true}});
+              {"Mean natural flow", "m³/s", true},
+              {"Mean demand", "m³/s", true}});
   for (const auto& node : network.nodes)
     out.write(rowOf(scenario, *node) + "\n");
   out.write(endOfTable);

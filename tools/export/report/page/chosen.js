@@ -98,6 +98,7 @@ const showChosen = (() => {
       plots.addCurve(blocks, element.curve);
     if (charts.length === 0 && !element.curve && !problem)
       blocks.append(make("p", { className: "remark" }, "It has no series."));
-    body.dataset.key = key; // all is drawn
+    plots.drawAll();
+    body.dataset.key = key;
   };
 })();

@@ -6,6 +6,7 @@ const plots = (() => {
   const months = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
     "November", "December"];
   const graphs = [];
+  const pending = []; // drawings that wait until all blocks are in their places
 
   // Its legend would write markup with styles of its own; the tables below are the legend.
   Dygraph.PLUGINS = Dygraph.PLUGINS.filter((plugin) => plugin !== Dygraph.Plugins.Legend);
@@ -68,12 +69,13 @@ const plots = (() => {
 
   function lineTable(lines, isPlotted) {
     const cursor = make("th", { scope: "col", className: "number at" }, "At the cursor");
-    const head = isPlotted ? ["Mean", "Least", "Most"] : ["In every month"];
+    const head = isPlotted ? ["Mean", "Minimum", "Maximum"] : ["In every month"];
     const body = make("tbody");
     for (const [index, line] of lines.entries()) {
-      const sum = line.values.reduce((total, value) => total + value, 0);
+      const over = (step) => line.values.reduce((result, value) => step(result, value));
       const cells = isPlotted
-        ? [rounded(sum / line.values.length), figure(Math.min(...line.values)), figure(Math.max(...line.values))]
+        ? [rounded(over((sum, value) => sum + value) / line.values.length),
+          figure(over((least, value) => Math.min(least, value))), figure(over((most, value) => Math.max(most, value)))]
         : [figure(line.values[0])];
       line.cursor = make("td", { className: "number at" });
       body.append(make("tr", {},
@@ -143,24 +145,19 @@ const plots = (() => {
   return {
     isConstant,
 
-    /** Lines: { label, begin: month index, values }. Appends to the container, which is in the page already. */
+    /** Lines: { label, begin: month index, values }. Appends a block; drawAll() draws its plot. */
     addSeries(container, title, unit, lines) {
       const isPlotted = !lines.every(isConstant);
       const { table, cursor } = lineTable(lines, isPlotted);
       const first = Math.min(...lines.map((line) => line.begin));
       const last = Math.max(...lines.map((line) => line.begin + line.values.length)) - 1;
-      const figureBox = make("div", { className: "plot", role: "img",
-        "aria-label": `Plot of ${title}, ${monthText(first)} to ${monthText(last)}. The tables below say the same in numbers.` });
+      const box = make("div", { className: "plot", role: "img",
+        "aria-label": `Plot of ${title}, ${monthText(first)} to ${monthText(last)}. The tables below say the same.` });
       const block = make("section", { className: isPlotted ? "series" : "series constant" },
-        make("h4", {}, title, " ", make("small", {}, unit)));
+        make("h4", {}, title, " ", make("small", {}, unit)), ...(isPlotted ? [box, table, valueTables(lines)] : [table]));
       container.append(block);
       if (isPlotted)
-        block.append(figureBox);
-      block.append(table);
-      if (isPlotted) {
-        drawSeries(figureBox, lines, cursor);
-        block.append(valueTables(lines));
-      }
+        pending.push(() => drawSeries(box, lines, cursor));
     },
 
     /** A reservoir's points of level (m), area (km²) and volume (hm³). */
@@ -175,7 +172,8 @@ const plots = (() => {
       container.append(make("section", { className: "series curve" },
         make("h4", {}, "Level, area and volume"), make("div", { className: "pair" }, box,
           make("div", { className: "scroll" }, table))));
-      draw(box, points.map(([level, area, volume]) => [level, volume, area]), ["Level", "Volume", "Area"], {
+      const rows = points.filter(([level]) => Number.isFinite(level)).map(([level, area, volume]) => [level, volume, area]);
+      pending.push(() => draw(box, rows, ["Level", "Volume", "Area"], {
         xlabel: "Level, m",
         ylabel: "Volume, hm³",
         y2label: "Area, km²",
@@ -184,7 +182,11 @@ const plots = (() => {
         pointSize: 2,
         axes: { x: { axisLabelFormatter: (value) => rounded(value) }, y: axisOptions,
           y2: { ...axisOptions, drawGrid: false, independentTicks: true } },
-      });
+      }));
+    },
+
+    drawAll() {
+      pending.splice(0).forEach((drawing) => drawing());
     },
 
     clear() {
