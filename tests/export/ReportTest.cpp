@@ -12,7 +12,6 @@
 using namespace LagomareTools;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
@@ -65,7 +64,7 @@ TEST(ReportTest, TheMapIsTrueToScaleAndLeavesOutWhatWouldShrinkIt) {
   EXPECT_NEAR((at(2).y - at(0).y) * map.kilometresPerUnit(), 111, 1);
 }
 
-TEST(ReportTest, LabelsBuryNeitherEachOtherNorSymbols) {
+TEST(ReportTest, LabelsDoNotBuryEachOther) {
   std::mt19937 random(1);
   std::uniform_real_distribution<double> place(0, 500);
   std::vector<MapPoint> nodes(300);
@@ -111,21 +110,19 @@ TEST(ReportTest, LabelsBuryNeitherEachOtherNorSymbols) {
 TEST(ReportTest, FaultsAreGroupedAndLeadToTheirElement) {
   Network network;
   network.nodes.push_back(junction(21, "Açude <b>", 0, 0));
-  ExportInput input{};
-  input.faults.emplace();
-  input.faults->push_back(
-      {"odd-name", Severity::note, "Tk_Pas_FEA", 1, 1, 21, "Açude <b>", "Nome", {}, "Odd.", "Mend."});
+  std::vector<Fault> faults;
+  faults.push_back({"odd-name", Severity::note, "Tk_Pas_FEA", 1, 1, 21, "Açude <b>", "Nome", {}, "Odd.", "Mend."});
   for (std::size_t row = 1; row <= 60; ++row)
-    input.faults->push_back(
-        {"not-a-number", Severity::warning, "LgmVazNat", row, 2, 99, "", "Valor", "<", "\"<\"", "Mend."});
-  const std::string html = written([&](FileWriter& out) { writeReportFaults(out, input, network); });
-  EXPECT_LT(html.find("<b>60 warnings</b>"), html.find("<b>1 note</b>"));
-  EXPECT_LT(html.find("<b>Not a number</b> <span>60 warnings"), html.find("<b>Odd name</b>"));
-  EXPECT_THAT(html, HasSubstr("LgmVazNat, rows 1 to 2, column Valor<td>99<td>&quot;&lt;&quot;"));
-  EXPECT_THAT(html, HasSubstr("<p>10 more"));
-  EXPECT_THAT(html, HasSubstr("<a href=\"#node-21\">Açude &lt;b&gt; (21)</a>"));
-  input.faults->clear();
-  EXPECT_THAT(written([&](FileWriter& out) { writeReportFaults(out, input, network); }), HasSubstr("no faults"));
-  input.faults.reset();
-  EXPECT_THAT(written([&](FileWriter& out) { writeReportFaults(out, input, network); }), HasSubstr("not checked"));
+    faults.push_back({"not-a-number", Severity::warning, "LgmVazNat", row, 2, 99, "", "Valor", "<", "\"<\"", "Mend."});
+  const auto html = [&](const std::optional<std::vector<Fault>>& found) {
+    return written([&](FileWriter& out) { writeReportFaults(out, found, network); });
+  };
+  const std::string all = html(faults);
+  EXPECT_LT(all.find("<b>60 warnings</b>"), all.find("<b>1 note</b>"));
+  EXPECT_LT(all.find("<b>Not a number</b> <span>60 warnings"), all.find("<b>Odd name</b>"));
+  EXPECT_THAT(all, HasSubstr("LgmVazNat, rows 1 to 2, column Valor<td>99<td>&quot;&lt;&quot;"));
+  EXPECT_THAT(all, HasSubstr("<p>10 more"));
+  EXPECT_THAT(all, HasSubstr("<a href=\"#node-21\">Açude &lt;b&gt; (21)</a>"));
+  EXPECT_THAT(html(std::vector<Fault>()), HasSubstr("no faults"));
+  EXPECT_THAT(html(std::nullopt), HasSubstr("not checked"));
 }

@@ -22,7 +22,7 @@ void writePart(FileWriter& out, std::string_view name, const ExportInput& input,
   else if (name == "counts")
     writeReportCounts(out, network);
   else if (name == "faults")
-    writeReportFaults(out, input, network);
+    writeReportFaults(out, input.faults, network);
   else if (name == "network")
     writeNetworkDrawing(out, network);
   else if (name == "tables")

@@ -119,14 +119,14 @@ std::vector<Faults> groupsOf(const std::vector<Fault>& faults) {
 
 } // namespace
 
-void writeReportFaults(FileWriter& out, const ExportInput& input, const Network& network) {
-  if (!input.faults)
+void writeReportFaults(FileWriter& out, const std::optional<std::vector<Fault>>& faults, const Network& network) {
+  if (!faults)
     return out.write("<p class=\"verdict unknown\">The project was not checked for faults.</p>\n");
-  if (input.faults->empty())
+  if (faults->empty())
     return out.write("<p class=\"verdict good\">The check found no faults.</p>\n");
   std::string counts;
   for (const Severity severity : {Severity::error, Severity::warning, Severity::note}) {
-    const auto count = std::count_if(input.faults->begin(), input.faults->end(),
+    const auto count = std::count_if(faults->begin(), faults->end(),
                                      [severity](const Fault& fault) { return fault.severity == severity; });
     const SeverityWords& words = wordsOf(severity);
     if (count != 0)
@@ -135,7 +135,7 @@ void writeReportFaults(FileWriter& out, const ExportInput& input, const Network&
   }
   out.write("<ul class=\"verdict\">\n" + counts + "</ul>\n");
   const Elements elements(network);
-  for (const Faults& group : groupsOf(*input.faults))
+  for (const Faults& group : groupsOf(*faults))
     writeGroup(out, group, elements);
 }
 

@@ -12,7 +12,8 @@ namespace LagomareTools {
 void writeReportFacts(FileWriter& out, const ExportInput& input);
 /// How many there are of each kind, which is the map's legend too.
 void writeReportCounts(FileWriter& out, const Network& network);
-void writeReportFaults(FileWriter& out, const ExportInput& input, const Network& network);
+/// Nothing: no check was made.
+void writeReportFaults(FileWriter& out, const std::optional<std::vector<Fault>>& faults, const Network& network);
 /// The table of the nodes and that of the links.
 void writeReportTables(FileWriter& out, const Scenario& scenario, const Network& network);
 /// What the page's script shows of a chosen element: two elements of script that hold no script.
