@@ -42,6 +42,13 @@ TEST_F(StoredOrderTest, NoIndexShufflesRows) {
              {"50", "40", "30", "2", "3"});
 }
 
+/// By an index that SQLite would build for the query, rows of one key would come in the order of their values.
+TEST_F(StoredOrderTest, JoinedRowsKeepTheirOrder) {
+  runSql("order.db", "CREATE TABLE e(id INT, n TEXT); INSERT INTO e VALUES(1, 'a'), (2, 'b');"
+                     "CREATE TABLE m(id INT, v INT); INSERT INTO m VALUES(1, 9), (2, 5), (1, 3), (2, 7), (1, 4)");
+  expectRows("SELECT e.n, m.v FROM e JOIN m ON e.id = m.id", {"a 9", "a 3", "a 4", "b 5", "b 7"});
+}
+
 TEST_F(StoredOrderTest, TheStatementsOwnOrderAndGroupsStand) {
   expectRows("SELECT v FROM t ORDER BY v", {"10", "20", "30", "40", "50"});
   expectRows("SELECT v FROM t WHERE v > 15 ORDER BY s DESC, v LIMIT 2", {"30", "40"});
@@ -52,6 +59,12 @@ TEST_F(StoredOrderTest, TheStatementsOwnOrderAndGroupsStand) {
 TEST_F(StoredOrderTest, RowidsCanBeAskedFor) {
   expectRows("SELECT rowid, v FROM t WHERE v > 25", {"1 50", "2 40", "3 30"});
   expectRows("SELECT OID, _rowid_, rowid, v FROM \"a \"\"b\"\"\" WHERE v > 0", {"1 1 z 2", "2 2 y 1"});
+  expectRows("SELECT count(*), max(rowid) FROM t WHERE v > 25", {"3 3"});
+  // Columns of these names, beside what * stands for.
+  expectRows("SELECT *, rowid FROM \"a \"\"b\"\"\" WHERE v > 0", {"z 2 z", "y 1 y"});
+  runSql("order.db",
+         "CREATE TABLE named(oid TEXT, ROWID INT, v INT UNIQUE); INSERT INTO named VALUES('x', 7, 2), ('y', 8, 1)");
+  expectRows("SELECT *, oid, rowid FROM named WHERE v > 0", {"x 7 2 x 7", "y 8 1 y 8"});
   EXPECT_NE(refusal("order.db", "SELECT rowid, * FROM t WHERE v > 25").find("name the columns"), std::string::npos);
 }
 

@@ -3,6 +3,7 @@
 #include "tools/query/DateFormat.h"
 #include "tools/query/QueryError.h"
 #include "tools/query/access/AccessDatabase.h"
+#include "tools/query/sqlite/PageCheck.h"
 #include "tools/query/sqlite/SqliteDatabase.h"
 #include <array>
 #include <cerrno>
@@ -68,6 +69,12 @@ Database openDatabase(const std::string& path) {
                    "; check that it is the project's file and arrived whole");
 }
 
+void requireSound(Database& database) {
+  if (database.needsCheck)
+    requireSoundDatabase(database.connection.get());
+  database.needsCheck = false;
+}
+
 void requireUnchanged(const Database& database) {
   if (database.stamp && !(LagomareTools::FileStamp::of(database.file) == *database.stamp))
     throw DatabaseChanged("the database was changed while it was read; close it in the other program, then try again");
@@ -80,6 +87,8 @@ void prepareForQueries(sqlite3* connection) {
   setOption(connection, SQLITE_DBCONFIG_DQS_DDL, 0);
   setOption(connection, SQLITE_DBCONFIG_DEFENSIVE, 1);
   setOption(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
+  // SQLite would build an index for a join, and read rows in its order.
+  execute(connection, "PRAGMA automatic_index = OFF");
   registerDateFormat(connection);
 }
 

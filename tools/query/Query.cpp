@@ -2,14 +2,17 @@
 
 #include "tools/query/QueryError.h"
 #include "tools/query/answer/RowWriter.h"
+#include "tools/query/sqlite/PageCheck.h"
 #include "tools/query/sqlite/StoredOrder.h"
 
 namespace LagomareQuery {
 
 namespace {
 
-void runQuery(sqlite3* connection, const std::string& sql, AnswerSink& sink) {
-  const StoredOrderQuery query(connection, sql);
+void runQuery(const Database& database, const std::string& sql, AnswerSink& sink) {
+  const StoredOrderQuery query(database.connection.get(), sql);
+  if (database.needsCheck)
+    requireSoundTables(database.connection.get(), query.tables());
   const int columns = sqlite3_column_count(query.statement());
   RowWriter writer(sink);
   while (step(query.statement()))
@@ -21,7 +24,7 @@ void runQuery(sqlite3* connection, const std::string& sql, AnswerSink& sink) {
 
 void writeRows(const Database& database, const std::string& sql, AnswerSink& sink) {
   try {
-    runQuery(database.connection.get(), sql, sink);
+    runQuery(database, sql, sink);
   } catch (const QueryError&) {
     requireUnchanged(database); // what looks like damage may be a file that another program is writing
     throw;

@@ -34,7 +34,8 @@ bool answerLine(const Database& database, const std::string& line, AnswerStream&
 } // namespace
 
 bool runSession(const std::string& path, std::istream& queries, AnswerStream& answers) {
-  const Database database = openDatabase(path);
+  Database database = openDatabase(path);
+  requireSound(database);
   for (std::string line; std::getline(queries, line);)
     if (!answerLine(database, line, answers))
       return false;

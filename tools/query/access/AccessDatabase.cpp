@@ -13,7 +13,7 @@ Database openAccessDatabase(const std::filesystem::path& file) {
     registerAccessTable(connection.get(), *pages, object);
   listTables(connection.get(), objects);
   prepareForQueries(connection.get());
-  return {pages, std::move(connection), file, stamp};
+  return {pages, std::move(connection), file, stamp, false};
 }
 
 } // namespace LagomareQuery

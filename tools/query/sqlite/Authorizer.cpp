@@ -24,6 +24,10 @@ int Authorizer::decide(void* self, int action, const char* first, const char* se
   std::string refusal = action == SQLITE_READ ? authorizer.refusalOfReading(textOrEmpty(first), textOrEmpty(second),
                                                                             textOrEmpty(schema), textOrEmpty(view))
                                               : Authorizer::refusalOf(action, textOrEmpty(first), textOrEmpty(second));
+  if (action == SQLITE_READ && textOrEmpty(schema) == "main")
+    authorizer.tables_.insert(textOrEmpty(first));
+  if (action == SQLITE_READ && textOrEmpty(schema) == "temp" && textOrEmpty(second) == trueRowid)
+    authorizer.readsRowidOfView_ = true;
   if (refusal.empty())
     return SQLITE_OK;
   authorizer.refusal_ = std::move(refusal);

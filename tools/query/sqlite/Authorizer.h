@@ -15,6 +15,11 @@ public:
   /// Why a statement was refused; empty if none was.
   [[nodiscard]] const std::string& refusal() const { return refusal_; }
 
+  /// The tables of the main schema that are read, those that SQLite itself makes up among them.
+  [[nodiscard]] const std::set<std::string>& tables() const { return tables_; }
+
+  [[nodiscard]] bool readsRowidOfView() const { return readsRowidOfView_; }
+
 private:
   static int decide(void* self, int action, const char* first, const char* second, const char* schema,
                     const char* view);
@@ -25,6 +30,8 @@ private:
   sqlite3* connection_;
   TableAccess access_;
   std::string refusal_;
+  std::set<std::string> tables_;
+  bool readsRowidOfView_ = false;
 };
 
 } // namespace LagomareQuery

@@ -2,6 +2,7 @@
 
 #include "tools/query/QueryError.h"
 #include "tools/query/sqlite/Authorizer.h"
+#include <utility>
 
 namespace LagomareQuery {
 
@@ -35,7 +36,7 @@ void requireSelect(sqlite3_stmt* statement) {
 
 } // namespace
 
-Statement prepareSelect(sqlite3* connection, const std::string& sql, TableAccess access) {
+Select prepareSelect(sqlite3* connection, const std::string& sql, TableAccess access) {
   const Authorizer authorizer(connection, access);
   sqlite3_stmt* raw = nullptr;
   const char* rest = nullptr;
@@ -48,7 +49,7 @@ Statement prepareSelect(sqlite3* connection, const std::string& sql, TableAccess
   requireSelect(raw);
   if (!isBlank(connection, rest))
     throw QueryError("the SQL holds more than one statement; send one that selects");
-  return statement;
+  return {std::move(statement), authorizer.tables(), authorizer.readsRowidOfView()};
 }
 
 } // namespace LagomareQuery

@@ -66,7 +66,8 @@ void throwSqliteError(sqlite3* connection) {
     throwDamagedSqlite(text);
   case SQLITE_CANTOPEN:
   case SQLITE_IOERR:
-    throw QueryError("the database cannot be read (" + text + "); check the file, its permissions and its disk");
+    throw QueryError("the database cannot be read (" + text +
+                     "); check the file, its permissions, its disk, and that its path is not overlong");
   default:
     throw QueryError(text);
   }

@@ -2,6 +2,7 @@
 
 #include "tools/query/QueryError.h"
 #include "tools/query/sqlite/PrivateCopy.h"
+#include "tools/query/sqlite/WriteAheadLog.h"
 #include <algorithm>
 #include <fstream>
 
@@ -52,6 +53,8 @@ bool isWriteAheadMode(const fs::path& file) {
 
 Database openCopy(const fs::path& file) {
   const auto copy = std::make_shared<PrivateCopy>(file);
+  if (const fs::path log = fs::path(copy->database()) += "-wal"; FileStamp::of(log).size > 0)
+    requireWholeLog(log);
   Connection connection = openConnection(uriOf(copy->database(), "mode=rw"), SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI);
   prepareForQueries(connection.get());
   sqlite3_db_config(connection.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
@@ -61,7 +64,7 @@ Database openCopy(const fs::path& file) {
   // Rolling back a hot journal takes away a page that was being added, but it also fills up a cut file.
   requireWholePages(connection.get(), std::min(sizeBefore, FileStamp::of(copy->database()).size));
   copy->removeFiles();
-  return {copy, std::move(connection), file, std::nullopt};
+  return {copy, std::move(connection), file, std::nullopt, true};
 }
 
 bool holdsBytes(const fs::path& file, const char* suffix) { return FileStamp::of(fs::path(file) += suffix).size > 0; }
@@ -76,7 +79,7 @@ Database openInPlace(const fs::path& file, const char* parameters, std::optional
   if (result != SQLITE_OK)
     throwSqliteError(connection.get());
   requireWholePages(connection.get(), FileStamp::of(file).size);
-  return {nullptr, std::move(connection), file, stampBefore.value_or(FileStamp::of(file))};
+  return {nullptr, std::move(connection), file, stampBefore.value_or(FileStamp::of(file)), true};
 }
 
 } // namespace

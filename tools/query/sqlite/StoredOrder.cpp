@@ -1,32 +1,24 @@
 #include "tools/query/sqlite/StoredOrder.h"
 
 #include "tools/query/QueryError.h"
-#include "tools/query/sqlite/Select.h"
 #include <algorithm>
-#include <array>
-#include <cctype>
 #include <vector>
 
 namespace LagomareQuery {
 
 namespace {
 
-constexpr std::array<const char*, 3> rowidNames = {"rowid", "_rowid_", "oid"};
-
-enum class Rowid { hidden, asColumn };
-
 bool contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
 bool sameName(const char* left, const std::string& right) { return sqlite3_stricmp(left, right.c_str()) == 0; }
 
-/// Whether the plan that SQLite makes by itself reads each table by rowid. An index that SQLite builds for the query
-/// alone keeps the order of rows with equal keys.
+/// Whether the plan that SQLite makes by itself reads each table by rowid.
 bool readsByRowid(sqlite3* connection, const std::string& sql) {
   constexpr int detailColumn = 3;
   const Statement plan = prepare(connection, "EXPLAIN QUERY PLAN " + sql);
   while (step(plan.get())) {
     const std::string_view detail = textColumn(plan.get(), detailColumn);
-    if (contains(detail, "INDEX") && !contains(detail, "USING AUTOMATIC ") && !contains(detail, "VIRTUAL TABLE INDEX"))
+    if (contains(detail, "INDEX") && !contains(detail, "VIRTUAL TABLE INDEX"))
       return false;
   }
   return true;
@@ -39,15 +31,21 @@ std::vector<std::string> texts(sqlite3* connection, std::string_view sql) {
   return found;
 }
 
-/// The names that mean the rowid in this table; none in a table without rowid. A column takes such a name for itself.
-std::vector<std::string> rowidNamesOf(sqlite3* connection, const std::string& table) {
+std::vector<std::string> columnsOf(sqlite3* connection, const std::string& table) {
   const Statement all = prepare(connection, "SELECT * FROM main." + quotedName(table));
-  std::vector<std::string> names(rowidNames.begin(), rowidNames.end());
-  for (int column = 0; column < sqlite3_column_count(all.get()); ++column) {
-    const char* taken = sqlite3_column_name(all.get(), column);
-    names.erase(std::remove_if(names.begin(), names.end(), [&](const auto& name) { return sameName(taken, name); }),
-                names.end());
-  }
+  std::vector<std::string> names;
+  for (int column = 0; column < sqlite3_column_count(all.get()); ++column)
+    names.emplace_back(sqlite3_column_name(all.get(), column));
+  return names;
+}
+
+/// The names that mean the rowid in this table; none in a table without rowid. A column takes such a name for itself.
+std::vector<std::string> rowidNamesOf(sqlite3* connection, const std::string& table,
+                                      const std::vector<std::string>& columns) {
+  std::vector<std::string> names;
+  for (const char* name : {"rowid", "_rowid_", "oid"})
+    if (std::none_of(columns.begin(), columns.end(), [&](const auto& column) { return sameName(name, column); }))
+      names.emplace_back(name);
   sqlite3_stmt* probe = nullptr;
   const std::string sql = "SELECT " + (names.empty() ? "NULL" : names.front()) + " FROM main." + quotedName(table);
   const bool hasRowid = sqlite3_prepare_v2(connection, sql.c_str(), -1, &probe, nullptr) == SQLITE_OK;
@@ -76,23 +74,27 @@ std::string joined(const std::vector<std::string>& parts) {
 }
 
 /// The limit, which limits nothing, keeps SQLite from dissolving the view into a join and its order with it.
-void shadowTable(sqlite3* connection, const std::string& table, Rowid rowid) {
-  const std::vector<std::string> names = rowidNamesOf(connection, table);
-  std::string columns = "*";
-  if (rowid == Rowid::asColumn)
+void shadowTable(sqlite3* connection, const std::string& table, bool hasRowidColumns) {
+  const std::vector<std::string> columns = columnsOf(connection, table);
+  const std::vector<std::string> names = rowidNamesOf(connection, table, columns);
+  std::vector<std::string> terms;
+  for (const std::string& column :
+       columns) // a column that is called like a rowid must not be taken for one, see Select
+    terms.push_back(quotedName(column) + (column == trueRowid ? " AS rowid" : ""));
+  if (hasRowidColumns)
     for (const std::string& name : names)
-      columns += ", " + name + " AS " + quotedName(name);
+      terms.push_back(name + " AS " + quotedName(name));
   const std::string order = names.empty() ? joined(keyTermsOf(connection, table)) : names.front();
-  execute(connection, "CREATE TEMP VIEW " + quotedName(table) + " AS SELECT " + columns + " FROM main." +
+  execute(connection, "CREATE TEMP VIEW " + quotedName(table) + " AS SELECT " + joined(terms) + " FROM main." +
                           quotedName(table) + " NOT INDEXED" +
                           (order.empty() ? "" : " ORDER BY " + order + " LIMIT -1"));
 }
 
-void shadowTables(sqlite3* connection, Rowid rowid) {
+void shadowTables(sqlite3* connection, bool haveRowidColumns) {
   const auto tables = texts(connection, "SELECT name FROM main.sqlite_master WHERE type = 'table' AND rootpage > 0 "
                                         "AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'");
   for (const std::string& table : tables)
-    shadowTable(connection, table, rowid);
+    shadowTable(connection, table, haveRowidColumns);
 }
 
 /// A stored view sees only the stored tables; its twin in the temporary schema sees their shadows.
@@ -102,22 +104,6 @@ void shadowViews(sqlite3* connection) {
     execute(connection, "CREATE TEMP VIEW " + sql.substr(std::min(sql.size(), asStored.size())));
 }
 
-/// Whether a word of the SQL may mean a rowid.
-bool mentionsRowid(const std::string& sql) {
-  const auto isWordCharacter = [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return c == '_' || byte >= 0x80 || std::isalnum(byte) != 0;
-  };
-  for (auto begin = sql.begin(); begin != sql.end();) {
-    const auto end = std::find_if_not(begin, sql.end(), isWordCharacter);
-    const std::string word(begin, end);
-    if (std::any_of(rowidNames.begin(), rowidNames.end(), [&](const char* name) { return sameName(name, word); }))
-      return true;
-    begin = std::find_if(end, sql.end(), isWordCharacter);
-  }
-  return false;
-}
-
 } // namespace
 
 void StoredOrderQuery::DropShadows::operator()(sqlite3* connection) const {
@@ -125,19 +111,25 @@ void StoredOrderQuery::DropShadows::operator()(sqlite3* connection) const {
 }
 
 StoredOrderQuery::StoredOrderQuery(sqlite3* connection, const std::string& sql)
-    : statement_(prepareSelect(connection, sql, TableAccess::direct)) {
+    : select_(prepareSelect(connection, sql, TableAccess::direct)) {
   if (readsByRowid(connection, sql))
     return;
-  statement_.reset();
-  // A view has no rowid of its own. As a column it would show up among those that * stands for.
-  const Rowid rowid = mentionsRowid(sql) ? Rowid::asColumn : Rowid::hidden;
-  if (rowid == Rowid::asColumn && contains(sql, "*"))
+  const int columns = sqlite3_column_count(statement());
+  prepareWithShadows(connection, sql, Rowid::hidden);
+  if (select_.readsRowidOfView) // which is NULL
+    prepareWithShadows(connection, sql, Rowid::asColumn);
+  if (sqlite3_column_count(statement()) != columns) // the rowid is among those that * stands for
     throw QueryError("rowid and * cannot be used together where an index would be; name the columns");
+}
+
+void StoredOrderQuery::prepareWithShadows(sqlite3* connection, const std::string& sql, Rowid rowid) {
+  select_.statement.reset();
+  shadows_.reset();
   execute(connection, "SAVEPOINT shadows");
   shadows_.reset(connection);
-  shadowTables(connection, rowid);
+  shadowTables(connection, rowid == Rowid::asColumn);
   shadowViews(connection);
-  statement_ = prepareSelect(connection, sql, TableAccess::shadowsOnly);
+  select_ = prepareSelect(connection, sql, TableAccess::shadowsOnly);
 }
 
 } // namespace LagomareQuery

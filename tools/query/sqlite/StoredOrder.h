@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/query/sqlite/Sqlite.h"
+#include "tools/query/sqlite/Select.h"
 
 namespace LagomareQuery {
 
@@ -15,14 +15,20 @@ public:
   /// Compiles the one statement in `sql`. Throws QueryError. One at a time on a connection, which must outlive it.
   StoredOrderQuery(sqlite3* connection, const std::string& sql);
 
-  [[nodiscard]] sqlite3_stmt* statement() const { return statement_.get(); }
+  [[nodiscard]] sqlite3_stmt* statement() const { return select_.statement.get(); }
+
+  /// The tables of the main schema that the statement reads.
+  [[nodiscard]] const std::set<std::string>& tables() const { return select_.tables; }
 
 private:
+  enum class Rowid { hidden, asColumn };
+  void prepareWithShadows(sqlite3* connection, const std::string& sql, Rowid rowid);
+
   struct DropShadows {
     void operator()(sqlite3* connection) const;
   };
   std::unique_ptr<sqlite3, DropShadows> shadows_; // goes after the statement that reads them
-  Statement statement_;
+  Select select_;
 };
 
 } // namespace LagomareQuery
