@@ -38,8 +38,8 @@ add_library(telu-lagomare-project
   elements/2013/SerieProjectManager.cpp
   loader/2010/SceneryProjectManager.cpp
   loader/2013/SceneryProjectManager.cpp
-  loader/common/ElementLoop.cpp
   loader/common/ScenarioParts.cpp
+  loader/common/SizeGuard.cpp
   loader/BidirectionalLinks.cpp
   loader/LagomareProjectLoader.cpp
 )

@@ -1,5 +1,6 @@
 #include "loader/LagomareProjectLoader.h"
 
+#include "elements/common/Kinds.h"
 #include "model/CoreServiceManager.h"
 #include "model/ElementsFilter.h"
 #include "model/Link.h"
@@ -79,7 +80,7 @@ void LagomareProjectLoader::transformBirectionalLinks(std::shared_ptr<Scenario> 
   std::map<std::shared_ptr<Node>, std::set<unsigned>> hiddenLinks; // by upstream node: ids that a node has too
   for (const auto& link : foldPairs(scenario)) {
     const auto upstream = link->upstream.lock();
-    CoreServiceManager::changeLinkTypeNoDatabase(link, ElementType::ArtificialLink, scenario);
+    CoreServiceManager::changeLinkTypeNoDatabase(link, Lagomare::artificialLinkKind, scenario);
     if (const auto changed = std::dynamic_pointer_cast<Link>(scenario->getElement(link->bdId)))
       changed->setIsBidirectional(true);
     else

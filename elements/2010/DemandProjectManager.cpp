@@ -3,6 +3,7 @@
 #include "elements/2010/SerieProjectManager.h"
 #include "elements/common/Demands.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Priorities.h"
 #include "elements/common/StateSeries.h"
 #include "elements/common/Steps.h"
@@ -11,6 +12,7 @@
 namespace Lagomare2010 {
 
 using namespace Lagomare;
+using Lagomare::Layout;
 
 const std::string DemandProjectManager::demandDemandTable = "DemEH";
 const std::string DemandProjectManager::demandPriorityTable = "DemPriorEH";
@@ -21,7 +23,7 @@ void DemandProjectManager::makeLambdas() {
            loadWaterDemandHydrologicalState};
 }
 
-void DemandProjectManager::validElement() { requireKind(elements, ElementType::HumanDemand, "DemandProjectManager"); }
+void DemandProjectManager::validElement() { requireKind(elements, humanDemandKind, "DemandProjectManager"); }
 
 unsigned DemandProjectManager::getElementType() { return 3; }
 
@@ -31,8 +33,8 @@ bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
 
 void DemandProjectManager::loadDemandSerie(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   auto& loader = as<DemandProjectManager>(base);
-  SerieProjectManager::load(SerieType::WaterDemand, loader.scenario->getInterval(), demandDemandTable, loader.elements,
-                            "Dem", "Demd", whereEH1);
+  SerieProjectManager::load(demandSeries, loader.scenario->getInterval(), demandDemandTable, loader.elements, "Dem",
+                            "Demd", whereEH1);
   replaceDrains(loader, loader.elements);
   finishStep(bar);
 }

@@ -14,6 +14,8 @@ class TeluCoreProgressBar;
 
 namespace Lagomare2010 {
 
+using Lagomare::ElementMap;
+
 /// Fills the elements of one kind from the database, in steps. Used for one load and dropped.
 ///
 /// Its map of elements is its own, the elements in it are shared with whoever made them. A step is a static
@@ -26,7 +28,7 @@ public:
   static const std::string whereEH1;         ///< "where EstHidr = 1"
   static const std::string natFlowTable;     ///< "Vazao"
 
-  ElementProjectManager(const Lagomare::ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
+  ElementProjectManager(const ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
 
   /// Registers the kind's steps in the order in which they run.
   virtual void makeLambdas() = 0;
@@ -49,7 +51,7 @@ public:
   void loadNatFlowSerie();
 
 protected:
-  Lagomare::ElementMap elements;
+  ElementMap elements;
   std::shared_ptr<Scenario> scenario;
   std::vector<std::function<void(ElementProjectManager*, TeluCoreProgressBar&)>> steps;
 };

@@ -5,6 +5,7 @@
 #include "elements/2010/LinkProjectManager.h"
 #include "elements/2010/ReservoirProjectManager.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 
 namespace Lagomare2010 {
 
@@ -12,10 +13,10 @@ using namespace Lagomare;
 
 const std::map<ElementType,
                std::function<std::shared_ptr<ElementProjectManager>(const ElementMap&, std::shared_ptr<Scenario>)>>
-    ElementProjectManagerFactory::mapOfLambdas{{ElementType::Reservoir, makeReservoir},
-                                               {ElementType::HumanDemand, makeDemand},
-                                               {ElementType::Junction, makeJunction},
-                                               {ElementType::NaturalLink, makeLink}};
+    ElementProjectManagerFactory::mapOfLambdas{{reservoirKind, makeReservoir},
+                                               {humanDemandKind, makeDemand},
+                                               {junctionKind, makeJunction},
+                                               {naturalLinkKind, makeLink}};
 
 std::shared_ptr<ElementProjectManager> ElementProjectManagerFactory::make(ElementType type, const ElementMap& elements,
                                                                           std::shared_ptr<Scenario> scenario) {

@@ -2,6 +2,7 @@
 
 #include "elements/2010/SerieProjectManager.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Priorities.h"
 #include "elements/common/Reservoirs.h"
 #include "elements/common/StateSeries.h"
@@ -11,6 +12,8 @@
 namespace Lagomare2010 {
 
 using namespace Lagomare;
+using Lagomare::Layout;
+using Lagomare::Row;
 
 namespace {
 
@@ -39,9 +42,7 @@ void ReservoirProjectManager::makeLambdas() {
            loadTargetVolumeHydrologicalState};
 }
 
-void ReservoirProjectManager::validElement() {
-  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager");
-}
+void ReservoirProjectManager::validElement() { requireKind(elements, reservoirKind, "ReservoirProjectManager"); }
 
 unsigned ReservoirProjectManager::getElementType() { return 2; }
 
@@ -82,7 +83,7 @@ void ReservoirProjectManager::loadEtpPrec(ElementProjectManager* base, TeluCoreP
 void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   auto& loader = as<ReservoirProjectManager>(base);
   fillTargets(loader.elements, loader.scenario->getInterval());
-  SerieProjectManager::load(SerieType::TargetVolume, loader.scenario->getInterval(), reservoirTagetVolumeTable,
+  SerieProjectManager::load(targetVolumeSeries, loader.scenario->getInterval(), reservoirTagetVolumeTable,
                             loader.elements, "Res", "Oprr", whereEH1);
   finishStep(bar);
 }

@@ -1,11 +1,13 @@
 #include "elements/2010/SerieProjectManager.h"
 
+#include "elements/common/Kinds.h"
 #include "elements/common/Series.h"
 #include "elements/common/Steps.h"
 
 namespace Lagomare2010 {
 
 using namespace Lagomare;
+using Lagomare::Layout;
 
 void SerieProjectManager::load(SerieType type, const Interval& interval, const std::string& table,
                                const ElementMap& elements, const std::string& idField, const std::string& valueField,
@@ -16,7 +18,7 @@ void SerieProjectManager::load(SerieType type, const Interval& interval, const s
 
 void SerieProjectManager::loadNatFlow(const Interval& interval, const ElementMap& elements) {
   const auto values = askValues("select Pto, U from " + ElementProjectManager::natFlowTable, true);
-  loadSeries(values, elements, SerieType::NaturalAffluentFlow, interval, Layout::Sequence);
+  loadSeries(values, elements, naturalFlowSeries, interval, Layout::Sequence);
 }
 
 } // namespace Lagomare2010

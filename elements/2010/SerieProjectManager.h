@@ -14,12 +14,11 @@ public:
   SerieProjectManager() = delete;
 
   /// A monthly profile: twelve rows per id, January first, repeated every year of the interval.
-  static void load(SerieType type, const Interval& interval, const std::string& table,
-                   const Lagomare::ElementMap& elements, const std::string& idField, const std::string& valueField,
-                   const std::string& where);
+  static void load(SerieType type, const Interval& interval, const std::string& table, const ElementMap& elements,
+                   const std::string& idField, const std::string& valueField, const std::string& where);
 
   /// The natural flows, one row per date.
-  static void loadNatFlow(const Interval& interval, const Lagomare::ElementMap& elements);
+  static void loadNatFlow(const Interval& interval, const ElementMap& elements);
 };
 
 } // namespace Lagomare2010

@@ -3,6 +3,7 @@
 #include "elements/2013/SerieProjectManager.h"
 #include "elements/common/Demands.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Nodes.h"
 #include "elements/common/Priorities.h"
 #include "elements/common/StateSeries.h"
@@ -12,6 +13,7 @@
 namespace Lagomare2013 {
 
 using namespace Lagomare;
+using Lagomare::Layout;
 
 const std::string DemandProjectManager::demandDemandTable = "LgmDemDemSC";
 const std::string DemandProjectManager::demandPriorityTable = "LgmDemPrior";
@@ -24,7 +26,7 @@ void DemandProjectManager::makeLambdas() {
            loadWaterDemandHydrologicalState};
 }
 
-void DemandProjectManager::validElement() { requireKind(elements, ElementType::HumanDemand, "DemandProjectManager"); }
+void DemandProjectManager::validElement() { requireKind(elements, humanDemandKind, "DemandProjectManager"); }
 
 bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
   return isDrain(*demand, scenario->getInterval());
@@ -32,8 +34,7 @@ bool DemandProjectManager::isDrainDemand(std::shared_ptr<Demand> demand) {
 
 void DemandProjectManager::loadDemandSerie(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   auto& loader = as<DemandProjectManager>(base);
-  SerieProjectManager::load(SerieType::WaterDemand, loader.scenario->getInterval(), demandDemandTable, loader.elements,
-                            whereEH1);
+  SerieProjectManager::load(demandSeries, loader.scenario->getInterval(), demandDemandTable, loader.elements, whereEH1);
   replaceDrains(loader, loader.elements);
   finishStep(bar);
 }

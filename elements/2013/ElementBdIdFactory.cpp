@@ -6,6 +6,7 @@
 #include "elements/2013/LinkProjectManager.h"
 #include "elements/2013/ReservoirProjectManager.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Steps.h"
 
 namespace Lagomare2013 {
@@ -23,10 +24,10 @@ std::vector<unsigned> idsAnswering(const std::string& sql) { return ElementBdIdF
 } // namespace
 
 const std::map<ElementType, std::function<std::vector<unsigned>()>> ElementBdIdFactory::mapOfLambdas{
-    {ElementType::Reservoir, makeReservoir},
-    {ElementType::HumanDemand, makeDemand},
-    {ElementType::Junction, makeJunction},
-    {ElementType::NaturalLink, makeLink}};
+    {reservoirKind, makeReservoir},
+    {humanDemandKind, makeDemand},
+    {junctionKind, makeJunction},
+    {naturalLinkKind, makeLink}};
 
 std::vector<unsigned> ElementBdIdFactory::makeVectorOfBdIds(ElementType type) {
   return makerOf(mapOfLambdas, type, "ElementBdIdFactory::makeVectorOfBdIds")();
@@ -50,6 +51,9 @@ std::vector<unsigned> ElementBdIdFactory::makeLink() {
   return idsAnswering(idsOf(LinkProjectManager::linkBdIdField1, LinkProjectManager::linkGeneralInfoTable));
 }
 
-std::vector<unsigned> ElementBdIdFactory::makeVector(const QueryResult& rows) { return idsIn(rows); }
+std::vector<unsigned>
+ElementBdIdFactory::makeVector(const std::map<unsigned, std::vector<std::vector<std::string>>>& rows) {
+  return idsIn(rows);
+}
 
 } // namespace Lagomare2013

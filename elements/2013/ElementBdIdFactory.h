@@ -1,11 +1,11 @@
 #pragma once
 
-#include "access/QueryResult.h"
 #include "lagomare_export.h"
 #include "model/ElementType.h"
 
 #include <functional>
 #include <map>
+#include <string>
 #include <vector>
 
 namespace Lagomare2013 {
@@ -27,7 +27,8 @@ public:
   [[nodiscard]] static std::vector<unsigned> makeDemand();
   [[nodiscard]] static std::vector<unsigned> makeLink();
 
-  [[nodiscard]] static std::vector<unsigned> makeVector(const QueryResult& rows);
+  [[nodiscard]] static std::vector<unsigned>
+  makeVector(const std::map<unsigned, std::vector<std::vector<std::string>>>& rows);
 };
 
 } // namespace Lagomare2013

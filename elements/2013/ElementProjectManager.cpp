@@ -3,6 +3,7 @@
 #include "access/LagomareProjectManager.h"
 #include "elements/2013/SerieProjectManager.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "model/Scenario.h"
 #include "model/TeluCoreProgressBar.h"
 
@@ -39,7 +40,7 @@ void ElementProjectManager::loadElementInfo(std::shared_ptr<Element> element, co
 }
 
 void ElementProjectManager::loadNatFlowSerie() {
-  SerieProjectManager::load(SerieType::NaturalAffluentFlow, scenario->getInterval(), natFlowTable, elements, "");
+  SerieProjectManager::load(naturalFlowSeries, scenario->getInterval(), natFlowTable, elements, "");
 }
 
 std::string ElementProjectManager::valuesOf(const std::string& table) {

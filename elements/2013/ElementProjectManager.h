@@ -14,6 +14,8 @@ class TeluCoreProgressBar;
 
 namespace Lagomare2013 {
 
+using Lagomare::ElementMap;
+
 /// Fills the elements of one kind from the database, in steps. Used for one load and dropped.
 ///
 /// Its map of elements is its own, the elements in it are shared with whoever made them. A step is a static
@@ -25,7 +27,7 @@ public:
   static const std::string whereEH1;     ///< "where EstHidr = 1"
   static const std::string natFlowTable; ///< "LgmVazNat"
 
-  ElementProjectManager(const Lagomare::ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
+  ElementProjectManager(const ElementMap& elementsById, std::shared_ptr<Scenario> scenarioToFill);
 
   /// Registers the kind's steps in the order in which they run.
   virtual void makeLambdas() = 0;
@@ -49,7 +51,7 @@ public:
   [[nodiscard]] static std::string valuesOf(const std::string& table);
 
 protected:
-  Lagomare::ElementMap elements;
+  ElementMap elements;
   std::shared_ptr<Scenario> scenario;
   std::vector<std::function<void(ElementProjectManager*, TeluCoreProgressBar&)>> steps;
 };

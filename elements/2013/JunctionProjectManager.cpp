@@ -1,6 +1,7 @@
 #include "elements/2013/JunctionProjectManager.h"
 
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Nodes.h"
 #include "elements/common/Steps.h"
 #include "model/Junction.h"
@@ -14,7 +15,7 @@ const std::string JunctionProjectManager::junctionGeneralInfoFields = "NumPonto,
 
 void JunctionProjectManager::makeLambdas() { steps = {loadGeneralInfo}; }
 
-void JunctionProjectManager::validElement() { requireKind(elements, ElementType::Junction, "JunctionProjectManager"); }
+void JunctionProjectManager::validElement() { requireKind(elements, junctionKind, "JunctionProjectManager"); }
 
 void JunctionProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   auto& loader = as<JunctionProjectManager>(base);

@@ -2,12 +2,14 @@
 
 #include "access/Fields.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Links.h"
 #include "elements/common/Steps.h"
 
 namespace Lagomare2013 {
 
 using namespace Lagomare;
+using Lagomare::Row;
 
 const std::string LinkProjectManager::linkGeneralInfoTable = "Tk_Lnk_FEA";
 const std::string LinkProjectManager::linkGeneralInfoFields = "UID, Nome, NoIni, NoFim, Coef, Cmin";
@@ -20,7 +22,7 @@ void LinkProjectManager::makeLambdas() {
   steps = {loadTrafficLimit, loadGeneralInfo};
 }
 
-void LinkProjectManager::validElement() { requireKind(elements, ElementType::NaturalLink, "LinkProjectManager"); }
+void LinkProjectManager::validElement() { requireKind(elements, naturalLinkKind, "LinkProjectManager"); }
 
 void LinkProjectManager::addElementInScenery(std::shared_ptr<Element> element) {
   scenario->addLink(std::dynamic_pointer_cast<Link>(element), 0);

@@ -2,6 +2,7 @@
 
 #include "elements/2013/SerieProjectManager.h"
 #include "elements/common/Elements.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/Priorities.h"
 #include "elements/common/Reservoirs.h"
 #include "elements/common/StateSeries.h"
@@ -11,6 +12,8 @@
 namespace Lagomare2013 {
 
 using namespace Lagomare;
+using Lagomare::Layout;
+using Lagomare::Row;
 
 namespace {
 
@@ -38,9 +41,7 @@ void ReservoirProjectManager::makeLambdas() {
            loadTargetVolumeHydrologicalState};
 }
 
-void ReservoirProjectManager::validElement() {
-  requireKind(elements, ElementType::Reservoir, "ReservoirProjectManager");
-}
+void ReservoirProjectManager::validElement() { requireKind(elements, reservoirKind, "ReservoirProjectManager"); }
 
 void ReservoirProjectManager::loadGeneralInfo(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   auto& loader = as<ReservoirProjectManager>(base);
@@ -70,7 +71,7 @@ void ReservoirProjectManager::loadEtpPrec(ElementProjectManager* base, TeluCoreP
 void ReservoirProjectManager::loadTargetVolume(ElementProjectManager* base, TeluCoreProgressBar& bar) {
   auto& loader = as<ReservoirProjectManager>(base);
   fillTargets(loader.elements, loader.scenario->getInterval());
-  SerieProjectManager::load(SerieType::TargetVolume, loader.scenario->getInterval(), reservoirTagetVolumeTable,
+  SerieProjectManager::load(targetVolumeSeries, loader.scenario->getInterval(), reservoirTagetVolumeTable,
                             loader.elements, whereEH1);
   finishStep(bar);
 }

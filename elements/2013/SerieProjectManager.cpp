@@ -6,6 +6,7 @@
 namespace Lagomare2013 {
 
 using namespace Lagomare;
+using Lagomare::Layout;
 
 void SerieProjectManager::load(SerieType type, const Interval& interval, const std::string& table,
                                const ElementMap& elements, const std::string& where) {

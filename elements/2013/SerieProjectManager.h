@@ -14,8 +14,8 @@ public:
   SerieProjectManager() = delete;
 
   /// One row per date, in order; dates left over keep what the series held.
-  static void load(SerieType type, const Interval& interval, const std::string& table,
-                   const Lagomare::ElementMap& elements, const std::string& where);
+  static void load(SerieType type, const Interval& interval, const std::string& table, const ElementMap& elements,
+                   const std::string& where);
 };
 
 } // namespace Lagomare2013

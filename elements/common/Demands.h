@@ -1,17 +1,17 @@
 #pragma once
 
 #include "elements/common/Elements.h"
-#include "model/DrainDemand.h"
+#include "model/Demand.h"
 
 namespace Lagomare {
 
 /// Whether the demand stands for a drain: at least 1000 m³/s, less a tolerance of 1e-6, at every date of the interval;
 /// so does any demand where that is empty. Throws std::invalid_argument "Invalid serie type!" where it has no demand
 /// series.
-[[nodiscard]] bool isDrain(const Demand& demand, const Interval& interval);
+[[nodiscard]] bool isDrain(Demand& demand, const Interval& interval);
 
 /// A drain with the demand's position, id and name, and with series of its own that are empty.
-[[nodiscard]] std::shared_ptr<DrainDemand> makeDrain(const Demand& demand);
+[[nodiscard]] std::shared_ptr<Element> makeDrain(Demand& demand);
 
 /// Asks the loader of each demand, in ascending order of id, whether it is a drain, and has it replaced if
 /// so.

@@ -10,7 +10,7 @@ void requireKind(const ElementMap& elements, ElementType type, const std::string
       throw std::invalid_argument(loader + "::validElement(): invalid element type");
 }
 
-std::vector<unsigned> idsIn(const QueryResult& rows) {
+std::vector<unsigned> idsIn(const std::map<unsigned, std::vector<Row>>& rows) {
   std::vector<unsigned> ids;
   for (const auto& entry : rows)
     ids.push_back(entry.first);
@@ -22,11 +22,11 @@ void identify(Element& element, const Row& row) {
   element.bdId = unsignedAt(row, 0);
 }
 
-Serie& serieOf(const Element& element, SerieType type) {
-  const auto serie = element.getSeriesInput()->find(type);
-  if (!serie)
-    throw std::invalid_argument("Invalid serie type!");
-  return *serie;
+Serie& serieOf(Element& element, SerieType type) {
+  for (const auto& serie : element.getVectorOfSeries(0))
+    if (static_cast<SerieType>(serie->getSerieType().id) == type)
+      return *serie;
+  throw std::invalid_argument("Invalid serie type!");
 }
 
 } // namespace Lagomare

@@ -25,13 +25,13 @@ template <typename Maker>
 }
 
 /// The ids of an answer, ascending, each once.
-[[nodiscard]] std::vector<unsigned> idsIn(const QueryResult& rows);
+[[nodiscard]] std::vector<unsigned> idsIn(const std::map<unsigned, std::vector<Row>>& rows);
 
 /// Sets the name from column 1, then the database id from column 0.
 void identify(Element& element, const Row& row);
 
-/// Throws std::invalid_argument "Invalid serie type!" where the element has no series of that kind.
-[[nodiscard]] Serie& serieOf(const Element& element, SerieType type);
+/// Throws std::invalid_argument "Invalid serie type!" where the element has no series of that kind in its first window.
+[[nodiscard]] Serie& serieOf(Element& element, SerieType type);
 
 /// The element of an id as a T; empty where the map lacks it or it is something else.
 template <typename T>

@@ -1,6 +1,7 @@
 #include "elements/common/Links.h"
 
 #include "access/Fields.h"
+#include "elements/common/Kinds.h"
 #include "model/Node.h"
 
 #include <stdexcept>
@@ -22,13 +23,13 @@ std::shared_ptr<Node> endOf(const Row& row, std::size_t column, const Scenario& 
 
 void loadFlowLimits(const QueryResult& rows, const ElementMap& elements, const Interval& interval) {
   forEachElement<Link>(rows, elements, [&interval](const auto& link, const Row& row) {
-    Serie& limit = serieOf(*link, SerieType::LinkLimitSerie);
+    Serie& limit = serieOf(*link, flowLimitSeries);
     limit.fill(numberAt(row, 1), interval);
   });
 }
 
-void fillLoss(const Link& link, double fraction, const Interval& interval) {
-  Serie& loss = serieOf(link, SerieType::LinkLoss);
+void fillLoss(Link& link, double fraction, const Interval& interval) {
+  Serie& loss = serieOf(link, lossSeries);
   loss.setInterval(interval);
   loss.fill(fraction * percent);
 }

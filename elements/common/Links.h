@@ -11,7 +11,7 @@ namespace Lagomare {
 void loadFlowLimits(const QueryResult& rows, const ElementMap& elements, const Interval& interval);
 
 /// Fills the loss series, in percent, over the interval with a fraction.
-void fillLoss(const Link& link, double fraction, const Interval& interval);
+void fillLoss(Link& link, double fraction, const Interval& interval);
 
 /// Where a link's row holds the ids of its two ends.
 struct EndColumns {

@@ -12,7 +12,7 @@ namespace Lagomare {
 
 /// The priority of each element, truncated, from the first row of its id.
 template <typename S>
-void loadPriorities(const QueryResult& rows, const ElementMap& elements, const Scenario& scenario) {
+void loadPriorities(const QueryResult& rows, const ElementMap& elements, Scenario& scenario) {
   forEachElement<Element>(rows, elements, [&scenario](const auto& element, const Row& row) {
     S& settings = settingsOf<S>(*element, scenario); // its error comes before that of the number
     settings.priority = truncatedIntAt(row, 1);
@@ -22,7 +22,7 @@ void loadPriorities(const QueryResult& rows, const ElementMap& elements, const S
 /// The priorities of each element per state, truncated: row i, from 0, is state i + 1. Ids that the scenario lacks are
 /// skipped; rows beyond the last state are converted, so that a bad number in them is seen, and ignored.
 template <typename S>
-void loadStatePriorities(const QueryResult& rows, const Scenario& scenario) {
+void loadStatePriorities(const QueryResult& rows, Scenario& scenario) {
   for (const auto& [id, rowsOfId] : rows) {
     const auto element = scenario.getElement(id);
     if (!element)

@@ -1,6 +1,7 @@
 #include "elements/common/Reservoirs.h"
 
 #include "access/Fields.h"
+#include "elements/common/Kinds.h"
 #include "elements/common/SettingsOf.h"
 #include "model/Calendar.h"
 #include "model/NumericalUtils.h"
@@ -37,7 +38,7 @@ void setVolumes(Reservoir& reservoir, const Row& row, const VolumeColumns& colum
   reservoir.setReservoirInfo(std::move(info));
 }
 
-void setSystemFlag(const Reservoir& reservoir, const Row& row, std::size_t column, const Scenario& scenario) {
+void setSystemFlag(Reservoir& reservoir, const Row& row, std::size_t column, Scenario& scenario) {
   auto& settings = settingsOf<PriorityReservoirSettings>(reservoir, scenario);
   settings.setIsHydrologicalStateSystem(unsignedAt(row, column) != 0);
 }
@@ -58,8 +59,8 @@ void loadCurves(const QueryResult& rows, const ElementMap& elements, const Curve
 void loadNetEvaporation(const QueryResult& rows, const ElementMap& elements, const Interval& interval, double scale) {
   for (const auto& entry : rows)
     if (const auto reservoir = findElement<Reservoir>(elements, entry.first)) {
-      Serie& precipitation = serieOf(*reservoir, SerieType::Precipitation);
-      Serie& evaporation = serieOf(*reservoir, SerieType::Evapotranspiration);
+      Serie& precipitation = serieOf(*reservoir, precipitationSeries);
+      Serie& evaporation = serieOf(*reservoir, evaporationSeries);
       const auto profile = readEach(rows, entry.first, [scale](const Row& row) { return numberAt(row, 1) * scale; });
       layNetEvaporation(profile, precipitation, evaporation, interval);
     }
@@ -67,7 +68,7 @@ void loadNetEvaporation(const QueryResult& rows, const ElementMap& elements, con
 
 void fillTargets(const ElementMap& elements, const Interval& interval) {
   for (const auto& entry : elements) {
-    Serie& target = serieOf(*entry.second, SerieType::TargetVolume);
+    Serie& target = serieOf(*entry.second, targetVolumeSeries);
     target.setInterval(interval);
     target.fill(1.0);
   }

@@ -26,7 +26,7 @@ void setVolumes(Reservoir& reservoir, const Row& row, const VolumeColumns& colum
 
 /// Sets whether the reservoir counts towards the system's hydrological state: any number but 0 says so.
 /// Throws as settingsOf does before it converts.
-void setSystemFlag(const Reservoir& reservoir, const Row& row, std::size_t column, const Scenario& scenario);
+void setSystemFlag(Reservoir& reservoir, const Row& row, std::size_t column, Scenario& scenario);
 
 /// Replaces the curve of each reservoir by all rows of its id, in their order.
 void loadCurves(const QueryResult& rows, const ElementMap& elements, const CurveColumns& columns);

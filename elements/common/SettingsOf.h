@@ -11,7 +11,7 @@ namespace Lagomare {
 /// The element's settings, as an S. Throws std::invalid_argument "Passed element is not valid for element setting"
 /// where it has none or they are something else.
 template <typename S>
-[[nodiscard]] S& settingsOf(const Element& element, const Scenario& scenario) {
+[[nodiscard]] S& settingsOf(const Element& element, Scenario& scenario) {
   const auto settings = std::dynamic_pointer_cast<S>(scenario.getSettingsManager().getSettings(element.bdId));
   if (!settings)
     throw std::invalid_argument("Passed element is not valid for element setting");

@@ -11,12 +11,12 @@ namespace Lagomare {
 /// The series of each element for one state, from 1, over the scenario's interval. Ids that the scenario lacks are
 /// skipped. S is the class of the elements' settings.
 template <typename S>
-void loadStateSeries(const ValueResult& values, const Scenario& scenario, unsigned state, Layout layout) {
+void loadStateSeries(const ValueResult& values, Scenario& scenario, unsigned state, Layout layout) {
   for (const auto& [id, column] : values) {
     const auto element = scenario.getElement(id);
     if (!element)
       continue;
-    const S& settings = settingsOf<S>(*element, scenario);
+    S& settings = settingsOf<S>(*element, scenario);
     layAsNeeded(column, *settings.getPrioritySeries().at(state - 1).second, scenario.getInterval(), layout);
   }
 }

@@ -5,6 +5,7 @@
 #include "elements/2010/ElementBdIdFactory.h"
 #include "elements/2010/ElementProjectManager.h"
 #include "elements/2010/ElementProjectManagerFactory.h"
+#include "elements/common/Kinds.h"
 #include "loader/common/ElementLoop.h"
 #include "loader/common/ImportPhases.h"
 #include "loader/common/ScenarioParts.h"
@@ -12,6 +13,7 @@
 namespace Lagomare2010 {
 
 using namespace Lagomare;
+using Lagomare::Row;
 
 namespace {
 
@@ -26,8 +28,8 @@ constexpr std::size_t monthColumn = 5;
 
 const std::string SceneryProjectManager::sceneryGeneralInfoTable = "DefGerais";
 const std::string SceneryProjectManager::sceneryXValuesTable = "FrontEH";
-const std::vector<ElementType> SceneryProjectManager::vecOfElementType{ElementType::Reservoir, ElementType::HumanDemand,
-                                                                       ElementType::Junction, ElementType::NaturalLink};
+const std::vector<ElementType> SceneryProjectManager::vecOfElementType{reservoirKind, humanDemandKind, junctionKind,
+                                                                       naturalLinkKind};
 
 SceneryProjectManagerRet SceneryProjectManager::load(std::function<bool(long, long)> progress) {
   const auto settings = LagomareProjectManager::getInstance()->query("select * from " + sceneryGeneralInfoTable, false);

@@ -5,6 +5,7 @@
 #include "elements/2013/ElementBdIdFactory.h"
 #include "elements/2013/ElementProjectManager.h"
 #include "elements/2013/ElementProjectManagerFactory.h"
+#include "elements/common/Kinds.h"
 #include "loader/common/ElementLoop.h"
 #include "loader/common/ImportPhases.h"
 #include "loader/common/ScenarioParts.h"
@@ -13,6 +14,7 @@
 namespace Lagomare2013 {
 
 using namespace Lagomare;
+using Lagomare::Row;
 
 namespace {
 
@@ -28,8 +30,8 @@ const std::string SceneryProjectManager::sceneryGeneralInfoTable = "Tk_Gerais";
 const std::string SceneryProjectManager::sceneryGeneralInfoFields =
     "FORMAT(DataHoraIni, 'dd/mm/yyyy'), Duracao, OptCalc, TipoSimul";
 const std::string SceneryProjectManager::sceneryXValuesTable = "LgmFrontEH";
-const std::vector<ElementType> SceneryProjectManager::vecOfElementType{ElementType::Reservoir, ElementType::HumanDemand,
-                                                                       ElementType::Junction, ElementType::NaturalLink};
+const std::vector<ElementType> SceneryProjectManager::vecOfElementType{reservoirKind, humanDemandKind, junctionKind,
+                                                                       naturalLinkKind};
 
 SceneryProjectManagerRet SceneryProjectManager::load(std::function<bool(long, long)> progress) {
   const auto settings = LagomareProjectManager::getInstance()->query(
@@ -47,7 +49,7 @@ Interval SceneryProjectManager::loadInterval(const std::vector<std::vector<std::
   // A time of day may follow the date.
   const std::string& text = textAt(settings, startColumn);
   const auto parts = StringUtils::split(text, ' ');
-  const Date start = Date::fromString(parts.size() < 2 ? text : parts.front(), "%d/%m/%Y");
+  Date start = Date::fromString(parts.size() < 2 ? text : parts.front(), "%d/%m/%Y");
   return makeInterval(firstDayOf(start.getYear(), start.getMonth()), unsignedAt(settings, durationColumn));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "elements/common/Elements.h"
+#include "loader/common/SizeGuard.h"
 #include "model/ElementFactory.h"
 #include "model/Scenario.h"
 #include "model/TeluCoreProgressBar.h"
@@ -10,10 +11,6 @@
 
 namespace Lagomare {
 
-/// Throws std::length_error where the series of so many elements of a kind, over the scenario's interval and for
-/// demands and reservoirs in each hydrological state too, cannot be meant: more than 2^30 values (8 GiB).
-LAGOMARE_EXPORT void requireReasonableSize(std::size_t elements, ElementType kind, const Scenario& scenario);
-
 /// Loads the elements of each kind in turn, under one progress bar, with the ids and the loaders that a dialect's two
 /// factories make. All ids are asked for before the first loader runs. False where the host asked to stop: the loaders
 /// that had not run are skipped.
@@ -21,11 +18,12 @@ template <typename BdIdFactory, typename LoaderFactory>
 [[nodiscard]] bool loadKinds(const std::vector<ElementType>& kinds, const std::shared_ptr<Scenario>& scenario,
                              const std::function<bool(long, long)>& progress) {
   std::vector<decltype(LoaderFactory::make(kinds.front(), ElementMap(), scenario))> loaders;
+  SizeGuard guard(*scenario);
   long steps = 0;
   for (const ElementType kind : kinds) {
     ElementMap elements;
     const auto ids = BdIdFactory::makeVectorOfBdIds(kind);
-    requireReasonableSize(ids.size(), kind, *scenario);
+    guard.add(kind, ids.size());
     for (const unsigned id : ids)
       elements[id] = ElementFactory::make(kind);
     loaders.push_back(LoaderFactory::make(kind, elements, scenario));

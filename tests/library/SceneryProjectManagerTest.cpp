@@ -62,12 +62,27 @@ TEST_P(SceneryProjectManagerTest, ReadsTheBoundariesInTheOrderOfTheirIds) {
 }
 
 TEST_P(SceneryProjectManagerTest, RefusesMoreValuesThanCanBeMeant) {
-  const auto hugeImport = [] {
-    import("update settings set years = 7999; insert into junction (id) with recursive n(i) as "
-           "(select 1 union all select i + 1 from n limit 12000) select i from n");
+  // 2^30 values are 11186 series of 7999 years: four of a reservoir, two of a demand, one more of each per state.
+  const auto refusal = [](const std::string& sql) {
+    try {
+      import("update settings set years = 7999; create temp table n as with recursive n(i) as "
+             "(select 1 union all select i + 1 from n limit 12000) select i from n; " +
+             sql);
+    } catch (const std::length_error& error) {
+      return std::string(error.what());
+    }
+    return std::string("none");
   };
-  EXPECT_THAT(hugeImport,
-              ThrowsMessage<std::length_error>(HasSubstr("12000 elements with 0 hydrological states are too many")));
+  const std::string begin = "SceneryProjectManager::loadElements: ";
+  const std::string end = " hydrological states are too many for so long a period";
+  EXPECT_EQ(refusal("insert into junction (id) select i from n limit 11187"), begin + "11187 elements with 0" + end);
+  EXPECT_EQ(refusal("insert into reservoir (id) select i from n limit 2797"), begin + "2797 elements with 0" + end);
+  EXPECT_EQ(refusal("insert into reservoir (id) select i from n limit 2000;"
+                    "insert into demand (id) select i + 2000 from n limit 1594"),
+            begin + "3594 elements with 0" + end);
+  EXPECT_EQ(refusal("update settings set states = 1; insert into boundary values (1, 0.5);"
+                    "insert into reservoir (id) select i from n limit 1865"),
+            begin + "1865 elements with 2" + end);
 }
 
 TEST(SceneryProjectManagerIntervalTest, Is12MonthsAYear) {

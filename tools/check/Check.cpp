@@ -1,6 +1,6 @@
 #include "tools/check/Check.h"
 
-#include "loader/common/ElementLoop.h"
+#include "loader/common/SizeGuard.h"
 #include "model/ExecutionContinuous.h"
 #include "model/PriorityScenario.h"
 #include "tools/check/Rules.h"
@@ -33,14 +33,14 @@ std::shared_ptr<PriorityScenario> makeScenario(const Settings& settings) {
 void checkSize(Inspection& inspection) {
   if (!inspection.settings.interval)
     return;
-  const auto scenario = makeScenario(inspection.settings);
+  Lagomare::SizeGuard guard(*makeScenario(inspection.settings));
   for (const auto& [kind, type] : elementTypes) {
     const auto isOfKind = [kind = kind](const auto& entry) { return entry.second.kind == kind; };
     const auto& [nodes, links] = std::tie(inspection.elements.nodes, inspection.elements.links);
     const auto count =
         std::count_if(nodes.begin(), nodes.end(), isOfKind) + std::count_if(links.begin(), links.end(), isOfKind);
     try {
-      Lagomare::requireReasonableSize(static_cast<std::size_t>(count), type, *scenario);
+      guard.add(type, static_cast<std::size_t>(count));
     } catch (const std::length_error&) {
       inspection.findings.add(
           Code::tooManyValues, Place{inspection.schema.tables.front().name},
