@@ -9,12 +9,12 @@ using namespace testing;
 
 namespace {
 
-class ReservoirProjectManagerTest : public DialectTest {
-protected:
-  static std::shared_ptr<PriorityReservoirSettings> settingsOf(const std::shared_ptr<Scenario>& scenario, unsigned id) {
-    return std::dynamic_pointer_cast<PriorityReservoirSettings>(scenario->getSettingsManager().getSettings(id));
-  }
-};
+std::shared_ptr<PriorityReservoirSettings> settingsOf(const std::shared_ptr<Scenario>& scenario, unsigned id) {
+  return std::dynamic_pointer_cast<PriorityReservoirSettings>(scenario->getSettingsManager().getSettings(id));
+}
+
+class ReservoirProjectManagerTest : public DialectTest {};
+class Reservoir2010Test : public ImportTest {};
 
 } // namespace
 
@@ -68,4 +68,16 @@ TEST_P(ReservoirProjectManagerTest, AimsAtFullWhereTheProjectSaysNothing) {
   EXPECT_EQ(settingsOf(scenario, 1)->priority, 5);
   EXPECT_EQ(states.at(1).first, 6U);
   EXPECT_EQ(valuesOf(*states.at(1).second)[11], 0.06);
+}
+
+TEST_F(Reservoir2010Test, HasNoVolumesAndNoFlagWithoutRows) {
+  const std::string reservoirs =
+      "insert into reservoir values (1, 'A', 5e5, 8e6, 9, 1, 5, 1), (2, 'B', 5e5, 8e6, 9, 1, 5, 1)";
+  for (const char* rest : {"where Res = 1", ""}) {
+    const auto scenario =
+        load(dialect2010, reservoirs, std::string("delete from Res ") + rest + "; delete from ResSubsist " + rest);
+    const auto& info = find<Reservoir>(scenario, 1)->getReservoirInfo();
+    EXPECT_THAT((std::vector{info.initialVolume, info.minimumVolume, info.maximumVolume}), Each(0.0));
+    EXPECT_FALSE(settingsOf(scenario, 1)->getIsHydrologicalStateSystem());
+  }
 }

@@ -1,5 +1,7 @@
 #include "Network.h"
 #include "model/CoreServiceManager.h"
+#include "model/DrainDemand.h"
+#include "model/ElementFactory.h"
 #include "model/ElementsFilter.h"
 #include "model/Link.h"
 #include "model/Node.h"
@@ -32,8 +34,10 @@ TEST_F(ScenarioTest, HoldsNodesAndLinksUnderIdsOfTheirOwn) {
               ThrowsMessage<std::invalid_argument>(HasSubstr("a node with the id 2")));
   EXPECT_THAT([this] { network.link(1, 1, 2); },
               ThrowsMessage<std::invalid_argument>(HasSubstr("a link with the id 1")));
-  EXPECT_THAT([this] { static_cast<void>(node1->getVectorOfSeries(1)); },
-              ThrowsMessage<std::out_of_range>("Invalid window index"));
+  const auto noSuchWindow = ThrowsMessage<std::out_of_range>("Invalid window index");
+  EXPECT_THAT([this] { static_cast<void>(node1->getVectorOfSeries(1)); }, noSuchWindow);
+  EXPECT_THAT([this] { scenario->addNode(node1, 1, 9); }, noSuchWindow);
+  EXPECT_THAT([this] { scenario->addLink(link1, 1); }, noSuchWindow);
   EXPECT_THAT(ElementsFilter::filterByType(scenario->getElements(), linkTypes), ElementsAre(link1, link2));
   EXPECT_EQ(network.scenario->getSceneryCheck()->getScenario(), scenario);
 }
@@ -62,4 +66,36 @@ TEST_F(ScenarioTest, PutsALinkOfAnotherKindIntoTheSamePlace) {
   EXPECT_THAT(node2->getUpstreamLinks(), ElementsAre(changed));
   for (const auto type : {ElementType::ArtificialLink, ElementType::Reservoir})
     EXPECT_THROW(CoreServiceManager::changeLinkTypeNoDatabase(link1, type, scenario), std::invalid_argument);
+}
+
+TEST_F(ScenarioTest, CopiesADemandWithItsSeriesButWithoutItsLinks) {
+  const auto original = std::dynamic_pointer_cast<DrainDemand>(network.node(ElementType::DrainDemand, 5));
+  network.link(3, 1, 5);
+  original->setName("Foz");
+  original->setX(-43.5);
+  original->setY(-18.25);
+  original->hostValues = {1.0, 2.0};
+  original->hostDrainState = 7;
+  original->addWindow(std::make_shared<Container<SerieType>>());
+  original->getVectorOfSeries(0).at(1)->fill(3.0, scenario->getInterval());
+  original->getWindows()[1]->set(SerieType::WaterDemand, original->getVectorOfSeries(0).at(0));
+  const auto copy = std::dynamic_pointer_cast<DrainDemand>(original->copy());
+  original->getVectorOfSeries(0).at(1)->fill(4.0);
+  ASSERT_NE(copy, nullptr);
+  EXPECT_EQ(copy->getElementType()->id, 6);
+  EXPECT_EQ(copy->bdId, 5U);
+  EXPECT_EQ(copy->getName(), "Foz");
+  EXPECT_EQ(std::make_pair(copy->getX(), copy->getY()), std::make_pair(-43.5, -18.25));
+  EXPECT_THAT(copy->hostValues, ElementsAre(1.0, 2.0));
+  EXPECT_EQ(copy->hostDrainState, 7);
+  EXPECT_THAT(copy->getUpstreamLinks(), IsEmpty());
+  EXPECT_THAT(copy->getVectorOfSeries(0), SizeIs(2));
+  EXPECT_EQ(copy->getVectorOfSeries(0).at(1)->getValue(Date(2001, 12, 1)), 3.0) << "a series of its own";
+  EXPECT_THAT(copy->getVectorOfSeries(1), SizeIs(1));
+}
+
+TEST(ElementFactoryTest, MakesNoElementOfAGenericKind) {
+  for (const ElementType kind : {ElementType::Demand, ElementType::Link})
+    EXPECT_THAT([kind] { static_cast<void>(ElementFactory::make(kind)); },
+                ThrowsMessage<std::invalid_argument>("ElementFactory::make: invalid element type"));
 }
