@@ -16,10 +16,11 @@ template <typename Scenery, typename WantsStates>
                                                       const std::function<bool(long, long)>& progress) {
   if (settings.empty())
     return {importInvalid, nullptr};
-  const auto& [id, rows] = *settings.begin();
+  const auto id = settings.begin()->first;
+  const auto& rows = settings.begin()->second;
   std::shared_ptr<Scenario> scenario;
   bool hasStates = false;
-  const bool isTactical = inRow(settings, id, 0, [&, &rows = rows] {
+  const bool isTactical = inRow(settings, id, 0, [&] {
     scenario = Scenery::makeSceneryInstance(Scenery::loadInterval(rows));
     hasStates = wantsStates(rows.front());
     return unsignedAt(rows.front(), tacticalColumn) != 0;

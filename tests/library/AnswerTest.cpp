@@ -78,7 +78,9 @@ void expectAsNaive(const std::string& text) {
 void expectSameValues(const std::string& text) {
   const QueryResult rows = rowsOf(text);
   auto next = rows.begin();
-  for (const auto& [id, column] : valuesOf(text)) {
+  for (const auto& entry : valuesOf(text)) {
+    const auto id = entry.first;
+    const auto& column = entry.second;
     ASSERT_NE(next, rows.end());
     EXPECT_EQ(id, next->first);
     ASSERT_EQ(column.size(), next->second.size()) << text;

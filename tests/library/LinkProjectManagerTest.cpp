@@ -39,6 +39,6 @@ TEST_P(LinkProjectManagerTest, NamesTheEndThatIsNoNode) {
                                    {"1, 10", "downStream"},
                                    {"11, 1", "upStream"}})
     EXPECT_THAT(
-        [ends = ends] { import(nodes + "insert into link values (10, 'A', 1, 3, 0), (11, 'B', " + ends + ", 0)"); },
+        [text = ends] { import(nodes + "insert into link values (10, 'A', 1, 3, 0), (11, 'B', " + text + ", 0)"); },
         ThrowsMessage<std::runtime_error>(std::string("LinkProjectManager::loadGeneralInfo: invalid ") + side));
 }

@@ -68,7 +68,7 @@ protected:
 using Kinds =
     Types<DemandKind<Lagomare2010::DemandProjectManager>, DemandKind<Lagomare2013::DemandProjectManager>,
           ReservoirKind<Lagomare2010::ReservoirProjectManager>, ReservoirKind<Lagomare2013::ReservoirProjectManager>>;
-TYPED_TEST_SUITE(PrioritiesTest, Kinds);
+TYPED_TEST_SUITE(PrioritiesTest, Kinds, ); // the comma: clang warns of a macro without its last argument
 
 TYPED_TEST(PrioritiesTest, AreTruncatedFromTheFirstRow) {
   const auto step = TypeParam::Loader::loadPriority;
