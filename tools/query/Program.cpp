@@ -4,6 +4,8 @@
 #include "tools/query/QueryError.h"
 #include "tools/query/Session.h"
 #include "tools/query/answer/AnswerFile.h"
+#include "tools/query/answer/AnswerStream.h"
+#include "tools/system/StandardStreams.h"
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -93,10 +95,10 @@ int answerInFile(const std::vector<std::string>& words) {
 
 int answerInSession(const std::string& database) {
   try {
-    AnswerStream answers(stdout);
+    AnswerStream answers;
     return runSession(database, std::cin, answers) ? EXIT_SUCCESS : EXIT_FAILURE;
-  } catch (const StreamError& error) {
-    return error.isReaderGone() ? EXIT_FAILURE : failure(error.what());
+  } catch (const LagomareTools::ReaderHasGone&) {
+    LagomareTools::endAsReaderHasGone();
   } catch (const std::bad_alloc&) {
     return failure("out of memory");
   } catch (const std::exception& error) {

@@ -8,29 +8,37 @@
 
 namespace LagomareTools {
 
+namespace {
+
+/// The file has no buffer.
+void writeWhole(std::FILE* file, const std::string& name, std::string_view text) {
+  while (!text.empty()) {
+    Interruption::throwIfRequested();
+    std::clearerr(file);
+    errno = 0;
+    text.remove_prefix(std::fwrite(text.data(), 1, text.size(), file));
+    if (std::ferror(file) == 0 || errno == EINTR)
+      continue;
+    if (errno == EPIPE && file == stdout)
+      throw ReaderHasGone();
+    throw Failure("cannot write " + name + ": " + systemText(errno));
+  }
+}
+
+} // namespace
+
 FileWriter::FileWriter(std::FILE* file, std::string name) : file_(file), name_(std::move(name)) {
   std::setvbuf(file_, nullptr, _IONBF, 0); // there is a buffer here
 }
 
 void FileWriter::flush() {
-  for (std::string_view rest = buffer_; !rest.empty();) {
-    Interruption::throwIfRequested();
-    std::clearerr(file_);
-    errno = 0;
-    rest.remove_prefix(std::fwrite(rest.data(), 1, rest.size(), file_));
-    if (std::ferror(file_) == 0 || errno == EINTR)
-      continue;
-    if (errno == EPIPE && file_ == stdout)
-      throw ReaderHasGone();
-    throw Failure("cannot write " + name_ + ": " + systemText(errno));
-  }
+  writeWhole(file_, name_, buffer_);
   buffer_.clear();
 }
 
 void writeToStandardOutput(std::string_view text) {
-  FileWriter out(stdout, "standard output");
-  out.write(text);
-  out.flush();
+  std::setvbuf(stdout, nullptr, _IONBF, 0);
+  writeWhole(stdout, "standard output", text);
 }
 
 } // namespace LagomareTools

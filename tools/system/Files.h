@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -13,6 +14,9 @@ using FilePointer = std::unique_ptr<std::FILE, FileCloser>;
 
 /// Opens a file as std::fopen does; programs started later do not see it. Null with errno if it cannot.
 [[nodiscard]] FilePointer openFile(const std::filesystem::path& file, const char* mode);
+
+/// Cuts or extends an open file without a buffer. False with errno if it cannot.
+[[nodiscard]] bool resize(std::FILE* file, std::uint64_t size);
 
 /// Puts a written file on the disk. False with errno if it cannot.
 [[nodiscard]] bool flushToDisk(std::FILE* file);

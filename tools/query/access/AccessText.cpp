@@ -1,11 +1,32 @@
 #include "tools/query/access/AccessText.h"
 
-#include "tools/query/answer/Utf8.h"
 #include <array>
 
 namespace LagomareQuery {
 
 namespace {
+
+/// Appends a character; a surrogate, which UTF-8 cannot hold, becomes U+FFFD.
+void appendUtf8(std::string& text, std::uint32_t character) {
+  const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+  const std::uint32_t code = isSurrogate ? 0xFFFD : character;
+  const auto continuation = [&](unsigned shift) { text += static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
+  if (code < 0x80) {
+    text += static_cast<char>(code);
+  } else if (code < 0x800) {
+    text += static_cast<char>(0xC0 | code >> 6);
+    continuation(0);
+  } else if (code < 0x10000) {
+    text += static_cast<char>(0xE0 | code >> 12);
+    continuation(6);
+    continuation(0);
+  } else {
+    text += static_cast<char>(0xF0 | code >> 18);
+    continuation(12);
+    continuation(6);
+    continuation(0);
+  }
+}
 
 /// Puts UTF-16 units together into characters.
 class Utf16Appender {

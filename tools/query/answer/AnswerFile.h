@@ -1,8 +1,10 @@
 #pragma once
 
-#include "tools/query/OutputFile.h"
 #include "tools/query/answer/AnswerSink.h"
+#include "tools/system/Files.h"
 #include <array>
+#include <cstdint>
+#include <filesystem>
 
 namespace LagomareQuery {
 
@@ -13,8 +15,10 @@ class AnswerFile : public AnswerSink {
 public:
   static constexpr std::string_view unfinishedLine = "error: the query did not finish .\n";
 
-  /// Throws QueryError, as write() and commit() do, where the file cannot be written.
-  explicit AnswerFile(std::string path);
+  /// Makes the file hold unfinishedLine and nothing else. It is overwritten in place, so that it is never missing; a
+  /// link, or whatever else is no ordinary file with one name, is replaced by a new file. Throws QueryError, as write()
+  /// and commit() do, if the file cannot be written.
+  explicit AnswerFile(std::filesystem::path path);
 
   void write(std::string_view bytes) override;
 
@@ -25,7 +29,17 @@ public:
   void fail(std::string_view reason) noexcept;
 
 private:
-  OutputFile file_;
+  [[nodiscard]] bool openInPlace();
+  void begin();
+  void replace();
+  void append(std::string_view bytes);
+  void overwriteBegin(std::string_view bytes);
+  void holdOnly(std::string_view line);
+  void resize(std::uint64_t size);
+  [[noreturn]] void throwError() const;
+
+  std::filesystem::path path_;
+  LagomareTools::FilePointer file_;
   std::array<char, unfinishedLine.size()> head_{};
   std::uint64_t size_ = 0; // of the answer so far, in bytes; those held back included
 };

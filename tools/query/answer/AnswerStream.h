@@ -1,30 +1,14 @@
 #pragma once
 
 #include "tools/query/answer/AnswerSink.h"
-#include <cstdio>
-#include <stdexcept>
 
 namespace LagomareQuery {
 
-/// The stream of answers cannot be written: nobody reads it any more, or the disk behind it is full.
-class StreamError : public std::runtime_error {
-public:
-  StreamError(const std::string& text, bool isReaderGone) : std::runtime_error(text), isReaderGone_(isReaderGone) {}
-
-  [[nodiscard]] bool isReaderGone() const { return isReaderGone_; }
-
-private:
-  bool isReaderGone_;
-};
-
-/// Answers one behind the other in a stream, each with an end line behind its rows. An end line begins with a byte that
-/// no row can hold: "\4complete" or "\4error: REASON".
+/// Answers one behind the other on standard output, each with an end line behind its rows. An end line begins with a
+/// byte that no row can hold: "\4complete" or "\4error: REASON". All functions throw Failure if standard output cannot
+/// be written, and ReaderHasGone.
 class AnswerStream : public AnswerSink {
 public:
-  /// Borrows the stream and writes to it without a buffer.
-  explicit AnswerStream(std::FILE* stream);
-
-  /// Throws StreamError, as the others do.
   void write(std::string_view bytes) override;
 
   /// All rows of the answer are written.
@@ -34,7 +18,6 @@ public:
   void fail(std::string_view reason);
 
 private:
-  std::FILE* stream_;
   char lastByte_ = '\n';
 };
 

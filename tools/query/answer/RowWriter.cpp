@@ -1,7 +1,7 @@
 #include "tools/query/answer/RowWriter.h"
 
 #include "tools/query/answer/NumberText.h"
-#include "tools/query/answer/Utf8.h"
+#include "tools/system/Utf8.h"
 #include <algorithm>
 #include <cstdint>
 #include <new>
@@ -81,7 +81,7 @@ void RowWriter::writeText(std::string_view text) {
     to = append(to, chunk.substr(0, plain));
     text.remove_prefix(plain);
     if (plain < chunk.size()) {
-      const std::size_t length = utf8CharacterLength(text);
+      const std::size_t length = LagomareTools::utf8CharacterLength(text);
       const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
       to = append(to, length == 0                         ? replacementCharacter
                       : mustBecomeNoBreakSpace(character) ? noBreakSpace

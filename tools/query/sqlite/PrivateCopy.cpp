@@ -1,9 +1,9 @@
 #include "tools/query/sqlite/PrivateCopy.h"
 
 #include "tools/query/QueryError.h"
+#include "tools/system/Failure.h"
 #include "tools/system/FileStamp.h"
 #include <array>
-#include <random>
 
 namespace LagomareQuery {
 
@@ -20,43 +20,20 @@ constexpr const char* cannotCopy =
     "the database has changes in a -wal or -journal file, and no copy could be made to read them from (TMPDIR says "
     "where); make room there, or open and close the database once in the program that wrote it: ";
 
-fs::path makePrivateDirectory() {
-  std::error_code error;
-  std::random_device random;
-  for (int attempt = 0; attempt < 100 && !error; ++attempt) {
-    fs::path directory = fs::temp_directory_path(error) / ("lagomare-query-" + std::to_string(random()));
-    if (!error && fs::create_directory(directory, error)) {
-      fs::permissions(directory, fs::perms::owner_all, error);
-      return directory;
-    }
-  }
-  throw QueryError(cannotCopy + error.message());
-}
-
 } // namespace
 
-PrivateCopy::PrivateCopy(const fs::path& database)
-    : directory_(makePrivateDirectory()), copy_(directory_ / "database") {
+PrivateCopy::PrivateCopy(const fs::path& database) {
   try {
+    copy_ = directory_.emplace().path() / "database";
     for (int attempt = 0; attempt < 3; ++attempt)
       if (copyFrom(database))
         return;
     throw QueryError("another program is writing to the database; close it there, then try again");
+  } catch (const LagomareTools::Failure& error) {
+    throw QueryError(std::string(cannotCopy) + error.what());
   } catch (const fs::filesystem_error& error) {
-    removeFiles();
     throw QueryError(std::string(cannotCopy) + error.code().message());
-  } catch (...) {
-    removeFiles();
-    throw;
   }
-}
-
-PrivateCopy::~PrivateCopy() { removeFiles(); }
-
-void PrivateCopy::removeFiles() noexcept {
-  std::error_code ignored;
-  if (!directory_.empty())
-    fs::remove_all(directory_, ignored);
 }
 
 /// False where a file was changed meanwhile: the copies would not fit together.

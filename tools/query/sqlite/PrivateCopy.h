@@ -1,6 +1,8 @@
 #pragma once
 
+#include "tools/system/PrivateDirectory.h"
 #include <filesystem>
+#include <optional>
 
 namespace LagomareQuery {
 
@@ -10,20 +12,17 @@ class PrivateCopy {
 public:
   /// `database` is the file's real path, links resolved: its companions stand beside it. Throws QueryError.
   explicit PrivateCopy(const std::filesystem::path& database);
-  ~PrivateCopy();
-  PrivateCopy(const PrivateCopy&) = delete;
-  PrivateCopy& operator=(const PrivateCopy&) = delete;
 
   [[nodiscard]] const std::filesystem::path& database() const { return copy_; }
 
   /// Removes the files now, as far as the system lets go of open ones, so that nothing stays behind if this process is
   /// killed; what is open can be read on.
-  void removeFiles() noexcept;
+  void removeFiles() noexcept { directory_.reset(); }
 
 private:
   [[nodiscard]] bool copyFrom(const std::filesystem::path& database);
 
-  std::filesystem::path directory_;
+  std::optional<LagomareTools::PrivateDirectory> directory_;
   std::filesystem::path copy_;
 };
 
