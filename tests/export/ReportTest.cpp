@@ -4,10 +4,16 @@
 #include "tools/export/report/ReportParts.h"
 
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <gmock/gmock.h>
 #include <limits>
+#include <memory>
+#include <optional>
 #include <random>
+#include <string>
+#include <vector>
 
 using namespace LagomareTools;
 using testing::ElementsAre;

@@ -1,7 +1,9 @@
 #include "tools/export/report/LabelPlacer.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 
 namespace LagomareTools {
 
@@ -82,15 +84,16 @@ bool LabelPlacer::isFreeFrom(const LabelPlace& place, MapPoint at, std::size_t l
 }
 
 bool LabelPlacer::isCrossed(const LabelPlace& place, const LabelOwner& owner, std::size_t length) {
-  constexpr double reach = 80.0; // pixels, in steps of 3: a label's height is more
+  constexpr unsigned points = 24; // of a link, so near each other that no label lies between them
+  constexpr double step = 3.0;
   const Box box = labelBox(place, {0, 0}, length, 0);
   for (const MapPoint& neighbour : owner.neighbours) {
     const double x = neighbour.x - owner.at.x;
     const double y = neighbour.y - owner.at.y;
     const double distance = std::max(std::hypot(x, y), 1e-9);
-    for (double step = owner.radius; step < reach; step += 3.0) {
-      const MapPoint point{x / distance * step, y / distance * step};
-      if (box.left < point.x && point.x < box.right && box.top < point.y && point.y < box.bottom)
+    for (unsigned index = 0; index < points; ++index) {
+      const double reach = (owner.radius + index * step) / distance;
+      if (box.left < x * reach && x * reach < box.right && box.top < y * reach && y * reach < box.bottom)
         return true;
     }
   }

@@ -3,6 +3,9 @@
 #include "tools/export/report/NetworkMap.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 

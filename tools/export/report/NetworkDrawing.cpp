@@ -7,8 +7,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <fmt/format.h>
 #include <map>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 
@@ -30,6 +35,13 @@ std::string shownLevels() {
   return classes;
 }
 
+/// The larger, the more one looks for its name.
+double weightOf(const Node& node) {
+  if (const auto* info = reservoirInfoOf(node))
+    return info->maximumVolume;
+  return meanOf(node, SerieType::WaterDemand).value_or(meanOf(node, SerieType::NaturalAffluentFlow).value_or(0.0));
+}
+
 class Drawing {
 public:
   Drawing(FileWriter& out, const Network& network)
@@ -44,7 +56,6 @@ private:
   void writeMissing(std::size_t links);
   void placeLabels();
   [[nodiscard]] std::vector<MapPoint> neighboursOf(const Node& node) const;
-  [[nodiscard]] double weightOf(const Node& node) const;
 
   FileWriter& out_;
   const Network& network_;
@@ -53,13 +64,6 @@ private:
   std::unordered_map<const Node*, LabelPlace> places_;
   std::map<std::pair<std::uint32_t, std::uint32_t>, unsigned> linksBetween_; ///< by the ids of the two ends
 };
-
-/// The larger, the more one looks for its name.
-double Drawing::weightOf(const Node& node) const {
-  if (const auto* info = reservoirInfoOf(node))
-    return info->maximumVolume;
-  return meanOf(node, SerieType::WaterDemand).value_or(meanOf(node, SerieType::NaturalAffluentFlow).value_or(0.0));
-}
 
 std::vector<MapPoint> Drawing::neighboursOf(const Node& node) const {
   std::vector<MapPoint> neighbours;
@@ -171,7 +175,7 @@ void Drawing::write() {
 network: {}, {}. The tables of elements say the same in words." data-room="{:.4g}" data-kilometres="{:.6g}">
 <g class="world">
 )svg",
-      shownLevels(), symbolScale(1.0, labels_.room()) * 10, map_.width, map_.height(),
+      shownLevels(), symbolScale(1.0, labels_.room()) * 10, NetworkMap::width, map_.height(),
       counted(network_.nodes.size(), "node", "nodes"), counted(network_.links.size(), "link", "links"), labels_.room(),
       map_.kilometresPerUnit()));
   std::size_t missingLinks = 0;

@@ -3,6 +3,8 @@
 #include "tools/export/report/NetworkMap.h"
 #include "tools/system/FileWriter.h"
 
+#include <string>
+
 namespace LagomareTools {
 
 /// Writes the map as an SVG picture, complete without a script or a style: symbols and labels at their size, and how

@@ -6,9 +6,13 @@
 #include "tools/system/Text.h"
 
 #include <cmath>
+#include <cstdint>
 #include <fmt/format.h>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 

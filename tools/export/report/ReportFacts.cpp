@@ -3,8 +3,10 @@
 #include "tools/export/report/ReportParts.h"
 
 #include <array>
+#include <cstdint>
 #include <fmt/format.h>
 #include <map>
+#include <string>
 
 namespace LagomareTools {
 

@@ -5,8 +5,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <fmt/format.h>
 #include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -4,6 +4,9 @@
 #include "tools/export/ScenarioView.h"
 #include "tools/system/FileWriter.h"
 
+#include <optional>
+#include <vector>
+
 namespace LagomareTools {
 
 // The parts of the page, each written where the page's template names it. All throw Failure.

@@ -3,6 +3,8 @@
 #include "tools/export/report/ReportParts.h"
 
 #include <fmt/format.h>
+#include <initializer_list>
+#include <string>
 
 namespace LagomareTools {
 
