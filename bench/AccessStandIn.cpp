@@ -21,10 +21,7 @@ constexpr std::size_t tableRowCountOffset = 16;
 constexpr std::size_t columnCountOffset = 45;
 constexpr std::size_t usageMapOffset = 55; // a slot in the lowest byte, its page above
 constexpr std::size_t bitmapOffset = 4;
-constexpr std::size_t rowSize = 15; // column count, long integer, double, null mask
-constexpr std::size_t integerOffset = 2;
-constexpr std::size_t doubleOffset = 6;
-constexpr unsigned rowsPerPage = 240;
+constexpr std::size_t fixedOffset = 2; // in a row, behind its number of columns
 
 class Pages {
 public:
@@ -54,37 +51,45 @@ void put(char* to, T value) {
   std::memcpy(to, &value, sizeof value);
 }
 
-/// The definition of the one table of two columns that has a column EstHidr.
-std::size_t findDefinition(Pages& pages) {
-  constexpr std::string_view name("E\0s\0t\0H\0i\0d\0r\0", 14);
-  for (std::size_t page = 0; page < pages.count(); ++page) {
-    const char* const bytes = pages.at(page);
-    if (bytes[0] == 2 && get<std::uint16_t>(bytes + columnCountOffset) == 2 &&
-        std::string_view(bytes, pageSize).find(name) != std::string_view::npos)
+/// A name as definitions hold it, between the lengths of its own and of the next one.
+std::string utf16(const std::string& name) {
+  std::string text;
+  for (const char letter : name)
+    text.append({letter, '\0'});
+  return text;
+}
+
+bool defines(const char* page, const std::vector<std::string>& columns) {
+  if (page[0] != 2 || get<std::uint16_t>(page + columnCountOffset) != columns.size())
+    return false;
+  const std::string_view bytes(page, pageSize);
+  return std::all_of(columns.begin(), columns.end(),
+                     [bytes](const auto& name) { return bytes.find(utf16(name)) != std::string_view::npos; });
+}
+
+std::size_t findDefinition(Pages& pages, const std::vector<std::string>& columns) {
+  for (std::size_t page = 0; page < pages.count(); ++page)
+    if (defines(pages.at(page), columns))
       return page;
-  }
-  throw std::runtime_error("the Access sample lacks the table FrontEH");
+  throw std::runtime_error("the Access sample lacks the table of " + columns.front());
 }
 
 std::string firstRowsPage(Pages& pages, std::size_t definition) {
   for (std::size_t page = 0; page < pages.count(); ++page)
     if (pages.at(page)[0] == 1 && get<std::uint32_t>(pages.at(page) + ownerOffset) == definition)
       return std::string(pages.at(page), pageSize);
-  throw std::runtime_error("the Access sample has no rows of FrontEH");
+  throw std::runtime_error("the Access sample has no rows of the table");
 }
 
 /// Rows fill a page from its end.
-void fillPage(char* page, const std::string& sample, unsigned firstRow, unsigned count) {
-  const char* const sampleRow = sample.data() + get<std::uint16_t>(sample.data() + slotsOffset);
-  std::memcpy(page, sample.data(), slotsOffset);
+void fillPage(char* page, const std::string& header, const std::string& row, unsigned count) {
+  std::memcpy(page, header.data(), slotsOffset);
   put(page + pageRowCountOffset, static_cast<std::uint16_t>(count));
-  put(page + freeSpaceOffset, static_cast<std::uint16_t>(pageSize - slotsOffset - count * (rowSize + 2)));
+  put(page + freeSpaceOffset, static_cast<std::uint16_t>(pageSize - slotsOffset - count * (row.size() + 2)));
   for (unsigned slot = 0; slot < count; ++slot) {
-    const std::size_t offset = pageSize - (slot + 1) * rowSize;
+    const std::size_t offset = pageSize - (slot + 1) * row.size();
     put(page + slotsOffset + 2 * slot, static_cast<std::uint16_t>(offset));
-    std::memcpy(page + offset, sampleRow, rowSize);
-    put(page + offset + integerOffset, static_cast<std::int32_t>((firstRow + slot) % 5000 + 1));
-    put(page + offset + doubleOffset, accessValue(firstRow + slot));
+    std::memcpy(page + offset, row.data(), row.size());
   }
 }
 
@@ -104,20 +109,30 @@ void mapPages(Pages& pages, std::size_t definition, std::size_t firstPage, std::
   put(map + 1, static_cast<std::uint32_t>(bits));
 }
 
+void replaceRows(Pages& pages, const AccessRows& table) {
+  const std::size_t definition = findDefinition(pages, table.columns);
+  const std::string sample = firstRowsPage(pages, definition);
+  const std::string row = sample.substr(get<std::uint16_t>(sample.data() + slotsOffset));
+  const auto rowsPerPage = static_cast<unsigned>((pageSize - slotsOffset) / (row.size() + 2));
+  const std::size_t firstPage = pages.count();
+  for (unsigned done = 0; done < table.count; done += rowsPerPage) {
+    const unsigned count = std::min(rowsPerPage, table.count - done);
+    char* const page = pages.at(pages.append());
+    fillPage(page, sample, row, count);
+    for (unsigned slot = 0; slot < count; ++slot)
+      table.fill(page + pageSize - (slot + 1) * row.size() + fixedOffset, done + slot + 1);
+  }
+  put(pages.at(definition) + tableRowCountOffset, std::uint32_t{table.count});
+  mapPages(pages, definition, firstPage, pages.count() - 1);
+}
+
 } // namespace
 
-double accessValue(unsigned row) { return static_cast<double>(row * 7919ULL % 9999991ULL) / 10000.0; }
-
-void writeAccessStandIn(const std::string& sample, const std::string& file, unsigned rows) {
+void writeAccessStandIn(const std::string& sample, const std::string& file, const std::vector<AccessRows>& tables) {
   std::ifstream in(sample, std::ios::binary);
   Pages pages(std::string(std::istreambuf_iterator<char>(in), {}));
-  const std::size_t definition = findDefinition(pages);
-  const std::string rowsPage = firstRowsPage(pages, definition);
-  const std::size_t firstPage = pages.count();
-  for (unsigned row = 0; row < rows; row += rowsPerPage)
-    fillPage(pages.at(pages.append()), rowsPage, row + 1, std::min(rowsPerPage, rows - row));
-  put(pages.at(definition) + tableRowCountOffset, std::uint32_t{rows});
-  mapPages(pages, definition, firstPage, pages.count() - 1);
+  for (const AccessRows& table : tables)
+    replaceRows(pages, table);
   std::ofstream(file, std::ios::binary) << pages.bytes();
 }
 

@@ -1,15 +1,22 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace LagomareBench {
 
-/// Writes a copy of the Access sample whose table FrontEH (EstHidr long integer, Valor double) holds so many rows
-/// instead of its own: pages of rows made after its first one are put behind the file's last page, and the table's
-/// definition and map of pages are changed to say so. Row n, from 1, holds n % 5000 + 1 and accessValue(n).
-void writeAccessStandIn(const std::string& sample, const std::string& file, unsigned rows);
+/// What a table of an Access sample holds instead of its own rows: copies of its first row, each with some values put
+/// into it.
+struct AccessRows {
+  std::vector<std::string> columns; ///< all of the table's, in no order; the first table that has them is meant
+  unsigned count;
+  /// Puts values into the row of a number, from 1. `fixed` is where the columns of fixed size begin.
+  std::function<void(char* fixed, unsigned row)> fill;
+};
 
-/// Four decimals.
-[[nodiscard]] double accessValue(unsigned row);
+/// Writes a copy of an Access sample with these tables: their pages of rows are put behind the file's last page, and
+/// their definitions and maps of pages are changed to say so.
+void writeAccessStandIn(const std::string& sample, const std::string& file, const std::vector<AccessRows>& tables);
 
 } // namespace LagomareBench

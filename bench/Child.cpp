@@ -1,6 +1,7 @@
 #include "bench/Child.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <fcntl.h>
@@ -85,6 +86,7 @@ double inChild(const std::function<double()>& work) {
 }
 
 Usage runCommand(const std::vector<std::string>& command, const std::string& outputFile) {
+  const auto begin = std::chrono::steady_clock::now();
   const pid_t child = checked(fork(), "fork");
   if (child == 0)
     execute(command, outputFile);
@@ -93,7 +95,8 @@ Usage runCommand(const std::vector<std::string>& command, const std::string& out
   checked(wait4(child, &status, 0, &usage), "wait4");
   if (status != 0)
     throw std::runtime_error(command.front() + " failed; its output stands in " + outputFile);
-  return {seconds(usage), std::int64_t{usage.ru_maxrss} * 1024};
+  const std::chrono::duration<double> clock = std::chrono::steady_clock::now() - begin;
+  return {seconds(usage), clock.count()};
 }
 
 } // namespace LagomareBench

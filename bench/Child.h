@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -24,8 +23,8 @@ template <typename Call>
 
 /// What a command used, the processes that it started included.
 struct Usage {
-  double seconds;
-  std::int64_t peakBytes; ///< of its largest process
+  double seconds; ///< of processor time
+  double clockSeconds;
 };
 
 /// Runs a command, found by PATH, both its outputs written to a file. Throws std::runtime_error where it fails.

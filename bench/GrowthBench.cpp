@@ -10,6 +10,7 @@
 #include "model/Link.h"
 #include "model/Node.h"
 #include "model/PriorityScenario.h"
+#include "tools/project/Import.h"
 
 #include <array>
 #include <fstream>
@@ -122,29 +123,35 @@ double parse(unsigned rows, Parse parse) {
   });
 }
 
-double parseToRows(unsigned rows) { return parse(rows, parseRows); }
+double parseToRows(unsigned rows) {
+  return parse(rows, [](std::istream& answer) { return parseRows(answer); });
+}
 
-double parseToValues(unsigned rows) { return parse(rows, parseValues); }
+double parseToValues(unsigned rows) {
+  return parse(rows, [](std::istream& answer) { return parseValues(answer); });
+}
 
-/// Cost of an import, its queries' included.
-double import(const Setting& setting, const BasinSize& size) {
+/// Cost of an import, that of the query executable included.
+double import(const BasinSize& size) {
   const std::string database = "growth.db";
   std::remove(database.c_str());
   writeBasin(database, size);
-  const std::string executable = setting.programs / "lagomare-query";
-  return secondsOf([&] { return LagomareProjectLoader::load2013(executable, database, {}); });
+  return secondsOf([&] {
+    const LagomareTools::Project project({database, {}, {}, {}});
+    return importScenario(project, [](long, long) {});
+  });
 }
 
 } // namespace
 
-void addGrowthBenches(Table& table, const Setting& setting) {
+void addGrowthBenches(Table& table) {
   addGrowth(table, "answer file → `QueryResult`, per row of 6,000 ×", nanoseconds, 6000, parseToRows);
   addGrowth(table, "answer file → `ValueResult`, per row of 6,000 ×", nanoseconds, 6000, parseToValues);
-  addGrowth(table, "import, per node of 50 × with 120 months, 3 states", milliseconds, 50, [&setting](unsigned nodes) {
-    return import(setting, {nodes, 10, 3});
+  addGrowth(table, "import, per node of 50 × with 120 months, 3 states", milliseconds, 50, [](unsigned nodes) {
+    return import({nodes, 10, 3});
   });
-  addGrowth(table, "import of 20 nodes with 12 months, per state of 2 ×", milliseconds, 2, [&setting](unsigned states) {
-    return import(setting, {20, 1, states});
+  addGrowth(table, "import of 20 nodes with 12 months, per state of 2 ×", milliseconds, 2, [](unsigned states) {
+    return import({20, 1, states});
   });
   addGrowth(table, "fold of two-way links at one reservoir, per link of 1,000 ×", nanoseconds, 1000, fold);
   addGrowth(table, "deletion of the links of one reservoir, per link of 1,000 ×", nanoseconds, 1000, deleteLinks);

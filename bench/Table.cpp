@@ -109,9 +109,11 @@ double Work::value(const Aim& aim) const {
   return median(values);
 }
 
+bool Work::isMeasured(const Aim& aim) const {
+  return costs_.count(aim.over) == 1 && (aim.under.empty() || costs_.count(aim.under) == 1);
+}
+
 void Work::printAim(std::ostream& out, const Aim& aim) const {
-  if (costs_.count(aim.over) == 0 || (!aim.under.empty() && costs_.count(aim.under) == 0))
-    return;
   const double today = value(aim);
   const bool isMet = aim.atLeast ? today >= aim.limit : today <= aim.limit;
   out << (aim.under.empty() ? aim.over : aim.over + " ÷ " + aim.under) << " | " << shortText(today) << " | "
@@ -124,10 +126,12 @@ void Work::print(std::ostream& out, const std::vector<std::string>& columns) con
   std::string figures = "| " + name_ + " | ";
   for (const auto& column : columns)
     figures += figure(column) + " | ";
-  if (aims_.empty())
-    out << figures << " | | | |\n";
+  const std::string nothing = "| |" + std::string(columns.size(), '|') + " ";
   for (const Aim& aim : aims_)
-    printAim(out << std::exchange(figures, "| |" + std::string(columns.size(), '|') + " "), aim);
+    if (isMeasured(aim))
+      printAim(out << std::exchange(figures, nothing), aim);
+  if (figures != nothing)
+    out << figures << " | | | |\n";
 }
 
 void Table::print(std::ostream& out) const {

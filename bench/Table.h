@@ -57,6 +57,7 @@ public:
 
 private:
   void runChecked(benchmark::State& state, const std::function<void()>& body);
+  [[nodiscard]] bool isMeasured(const Aim& aim) const;
   [[nodiscard]] double value(const Aim& aim) const;
   void printAim(std::ostream& out, const Aim& aim) const;
   [[nodiscard]] std::string figure(const std::string& contender) const;

@@ -46,7 +46,8 @@ bool takeWord(std::vector<char*>& words, std::string_view word) {
 int run(std::vector<char*> words) {
   constexpr int rounds = 7;
   const fs::path program = fs::canonical(words.front());
-  const Setting setting{program.parent_path(), LAGOMARE_BENCH_SAMPLES, takeWord(words, "--large")};
+  const Setting setting{program.parent_path(), LAGOMARE_BENCH_SAMPLES, LAGOMARE_BENCH_EXAMPLES,
+                        takeWord(words, "--large")};
   int count = static_cast<int>(words.size());
   benchmark::Initialize(&count, words.data());
   if (benchmark::ReportUnrecognizedArguments(count, words.data()))
@@ -59,8 +60,9 @@ int run(std::vector<char*> words) {
   addSeriesBenches(works);
   addQueryBenches(works, setting);
   addAccessBenches(works, setting);
+  addExampleBenches(works, setting);
   addImportBenches(works, setting);
-  addGrowthBenches(growths, setting);
+  addGrowthBenches(growths);
   const bool succeeded = runRounds(rounds);
   works.print(std::cout);
   growths.print(std::cout);
@@ -68,6 +70,14 @@ int run(std::vector<char*> words) {
 }
 
 } // namespace
+
+std::vector<std::string> LagomareBench::importCommand(const Setting& setting, const std::string& project) {
+  return {setting.programs / "lagomare", "import", "--no-check", "--quiet", project};
+}
+
+std::vector<std::string> LagomareBench::checkCommand(const Setting& setting, const std::string& project) {
+  return {setting.programs / "lagomare", "check", project};
+}
 
 int main(int count, char** words) {
   try {

@@ -40,7 +40,7 @@ std::vector<double> DenseSerie::getValues(const Months& months) const {
 
 Rows InProcess::rows(const std::string& sql) const {
   Rows rows;
-  const auto statement = LagomareQuery::prepare(database_.connection.get(), sql);
+  const auto statement = LagomareQuery::prepare(connection_.get(), sql);
   while (LagomareQuery::step(statement.get())) {
     Row row;
     for (int column = 0; column < sqlite3_column_count(statement.get()); ++column)

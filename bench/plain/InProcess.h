@@ -23,14 +23,17 @@ class InProcess {
 public:
   using Serie = DenseSerie;
 
-  explicit InProcess(const std::string& database) : database_(LagomareQuery::openDatabase(database)) {}
+  explicit InProcess(const std::string& database)
+      : connection_(LagomareQuery::openConnection(database, SQLITE_OPEN_READONLY)) {
+    LagomareQuery::prepareForQueries(connection_.get());
+  }
 
   [[nodiscard]] Rows rows(const std::string& sql) const;
 
   /// The rows of an id must follow each other.
   template <typename Visit>
   void forEachSeries(const std::string& sql, Visit visit) const {
-    const auto statement = LagomareQuery::prepare(database_.connection.get(), sql);
+    const auto statement = LagomareQuery::prepare(connection_.get(), sql);
     std::vector<double> values;
     unsigned id = 0;
     while (LagomareQuery::step(statement.get())) {
@@ -47,7 +50,7 @@ public:
   }
 
 private:
-  LagomareQuery::Database database_;
+  LagomareQuery::Connection connection_;
 };
 
 } // namespace Plain
