@@ -2,9 +2,14 @@
 
 #include "access/LagomareProjectManager.h"
 #include "loader/LagomareProjectLoader.h"
+#include "model/Scenario.h"
+#include "tools/check/CheckText.h"
+#include "tools/check/Rule.h"
 #include "tools/project/QueryRefused.h"
 #include "tools/query/Query.h"
 #include "tools/query/QueryError.h"
+
+#include <gtest/gtest.h>
 
 #include <sstream>
 
@@ -143,4 +148,41 @@ std::vector<std::string> codesOf(const CheckResult& result) {
     if (codes.empty() || codes.back() != fault.code)
       codes.push_back(fault.code);
   return codes;
+}
+
+namespace {
+
+/// "" where the import succeeds and has a month.
+std::string failureOf(MemoryProject& project) {
+  try {
+    const auto result = project.import();
+    const bool isEmpty = result.scenario && result.scenario->getInterval().isEmpty();
+    return result.status != importSucceeded.code ? result.message : isEmpty ? "no month" : "";
+  } catch (const std::exception& error) {
+    return error.what();
+  }
+}
+
+bool isOfRowsNotTaken(const Fault& fault) {
+  for (std::size_t code = 0; code < numOfCodes; ++code)
+    if (ruleOf(static_cast<Code>(code)).slug == fault.code)
+      return ruleOf(static_cast<Code>(code)).isOfRowsNotTaken;
+  return false;
+}
+
+} // namespace
+
+void expectFitsImport(MemoryProject& project, const CheckResult& result, const std::string& what) {
+  const std::string failure = failureOf(project);
+  EXPECT_EQ(result.count(Severity::error) == 0, failure.empty()) << what << '\n'
+                                                                 << failure << '\n'
+                                                                 << textOf(result, "the check", true);
+  if (!failure.empty())
+    return;
+  for (const TableCount& table : result.tables) {
+    std::size_t told = 0;
+    for (const Fault& fault : result.faults)
+      told += fault.table == table.table && isOfRowsNotTaken(fault) ? fault.rows : 0;
+    EXPECT_EQ(told, table.rows - table.taken) << what << '\n' << textOf(result, "the check", true);
+  }
 }

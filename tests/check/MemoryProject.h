@@ -13,6 +13,10 @@ public:
 
   [[nodiscard]] std::unique_ptr<std::istream> ask(const std::string& sql, bool flag) override;
 
+  /// Runs SQL; what fails is left out.
+  void tryChange(const std::string& sql) {
+    sqlite3_exec(database_.connection.get(), sql.c_str(), nullptr, nullptr, nullptr);
+  }
   /// From now on queries with this text in them are refused.
   void refuse(const std::string& part) { refused_ = part; }
 
@@ -33,3 +37,7 @@ private:
 
 /// The codes among the faults, each once, in their order.
 [[nodiscard]] std::vector<std::string> codesOf(const LagomareTools::CheckResult& result);
+
+/// An error was found exactly if the import does not succeed, and each row not taken stands in one warning. `what` is
+/// for the test's message.
+void expectFitsImport(MemoryProject& project, const LagomareTools::CheckResult& result, const std::string& what);
