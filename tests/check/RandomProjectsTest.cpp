@@ -23,7 +23,7 @@ public:
   Breaker(unsigned seed, Dialect dialect) : engine_(seed), schema_(schemaOf(dialect)) {}
 
   std::vector<std::string> changes() {
-    std::vector<std::string> changes(pick(4));
+    std::vector<std::string> changes(pick(7));
     for (std::string& sql : changes)
       sql = change();
     return changes;
@@ -190,7 +190,7 @@ void expectFitsScenario(const CheckResult& result, const Scenario& scenario, con
 
 TEST(RandomProjectsTest, AnErrorIsFoundExactlyIfTheImportDoesNotSucceed) {
   std::size_t numOfImported = 0;
-  constexpr unsigned numOfProjects = 1500;
+  constexpr unsigned numOfProjects = 1000;
   for (const Dialect dialect : allDialects)
     for (unsigned seed = 0; seed < numOfProjects && !HasFailure(); ++seed) {
       SCOPED_TRACE("seed " + std::to_string(seed));
