@@ -163,13 +163,6 @@ std::string failureOf(MemoryProject& project) {
   }
 }
 
-bool isOfRowsNotTaken(const Fault& fault) {
-  for (std::size_t code = 0; code < numOfCodes; ++code)
-    if (ruleOf(static_cast<Code>(code)).slug == fault.code)
-      return ruleOf(static_cast<Code>(code)).isOfRowsNotTaken;
-  return false;
-}
-
 } // namespace
 
 void expectFitsImport(MemoryProject& project, const CheckResult& result, const std::string& what) {
@@ -182,7 +175,7 @@ void expectFitsImport(MemoryProject& project, const CheckResult& result, const s
   for (const TableCount& table : result.tables) {
     std::size_t told = 0;
     for (const Fault& fault : result.faults)
-      told += fault.table == table.table && isOfRowsNotTaken(fault) ? fault.rows : 0;
+      told += fault.table == table.table && ruleOf(fault).rows == Rows::notTaken ? fault.rows : 0;
     EXPECT_EQ(told, table.rows - table.taken) << what << '\n' << textOf(result, "the check", true);
   }
 }

@@ -32,10 +32,10 @@ public:
 private:
   std::size_t pick(std::size_t below) { return engine_() % below; }
 
-  const Table& pickTable() { return schema_.tables[pick(schema_.tables.size())]; }
+  const LegacyTable& pickTable() { return schema_.tables[pick(schema_.tables.size())]; }
 
   /// The rows of the sound project are few enough for this to hit one mostly.
-  std::string pickRows(const Table& table) {
+  std::string pickRows(const LegacyTable& table) {
     const std::string name = table.name;
     const std::string rows = "(select count(*) from " + name + ")";
     const std::string row = std::to_string(1 + pick(50));
@@ -60,7 +60,7 @@ private:
   }
 
   std::string change() {
-    const Table& table = pickTable();
+    const LegacyTable& table = pickTable();
     const std::string name = table.name;
     const std::string column = table.columns[pick(table.columns.size())].name;
     const std::string copy = "; insert into " + name + " select * from temp.copy; drop table temp.copy";
@@ -155,7 +155,7 @@ Laid countLaid(const Scenario& scenario, bool repeats) {
 template <typename Sort>
 std::size_t takenOf(const CheckResult& result, Sort sort) {
   std::size_t taken = 0;
-  for (const Table& table : schemaOf(result.dialect).tables)
+  for (const LegacyTable& table : schemaOf(result.dialect).tables)
     for (const TableCount& count : result.tables)
       if (count.table == table.name && sort(table))
         taken += count.taken;
@@ -166,13 +166,13 @@ void expectFitsScenario(const CheckResult& result, const Scenario& scenario, con
   const bool repeats = result.dialect == Dialect::of2010;
   const Laid laid = countLaid(scenario, repeats);
   const auto taken = [&result](Meaning meaning) {
-    return takenOf(result, [meaning](const Table& table) {
+    return takenOf(result, [meaning](const LegacyTable& table) {
       return table.layout != Layout::nodes && table.layout != Layout::links &&
              table.columnOf(meaning) < table.columns.size();
     });
   };
   const auto takenOfLayout = [&result](Layout layout) {
-    return takenOf(result, [layout](const Table& table) { return table.layout == layout; });
+    return takenOf(result, [layout](const LegacyTable& table) { return table.layout == layout; });
   };
   EXPECT_EQ(laid.nodes, takenOfLayout(Layout::nodes)) << changes;
   EXPECT_EQ(laid.links, takenOfLayout(Layout::links)) << changes;

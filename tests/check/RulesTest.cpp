@@ -89,7 +89,7 @@ const std::vector<Case> cases{
      "update LgmResVmetaSC set EstHidr = 3 where EstHidr = 2; insert into LgmFrontEH values (2, 0.6)"},
     {"state-not-read", in2013, "insert into LgmResPrior values (1, 3, 3)",
      "insert into LgmResPrior values (1, 3, 3); insert into LgmFrontEH values (2, 0.6)"},
-    {"limit-of-other-state", in2013, "insert into LgmLnkCmaxSC values (11, 2, 90)", ""},
+    {"limit-of-other-state", in2013, "insert into LgmLnkCmaxSC values (11, 2, 80)", "insert into LgmLnkCmaxSC values (11, 0, 80)"},
     {"two-way-partner", in2010, "insert into Links values (15, 'd', 1, 2, 1), (14, 'e', 2, 1, 1)",
      "insert into Links values (15, 'd', 1, 2, 1), (14, 'e', 4, 1, 1)"},
     {"rows-out-of-order", in2010, "delete from Vazao where Pto = 4 and Mes = 2",

@@ -12,7 +12,7 @@ using testing::StartsWith;
 class ImportCommandTest : public CommandTest {};
 
 TEST_F(ImportCommandTest, TellsWhatWasFound) {
-  const Ending ending = import({project()});
+  const Ending ending = import({project(), "--no-check"});
   EXPECT_EQ(ending.exitCode, 0);
   EXPECT_EQ(ending.err, "");
   EXPECT_EQ(ending.out, "Importação realizada com sucesso\n"

@@ -8,8 +8,9 @@ using testing::StartsWith;
 
 class ErrorReportTest : public CommandTest {
 protected:
-  /// The one line of an import that must fail.
-  static std::string errorOf(const std::vector<std::string>& words) {
+  /// The one line of an import without a check that must fail.
+  static std::string errorOf(std::vector<std::string> words) {
+    words.push_back("--no-check");
     const Ending ending = import(words);
     EXPECT_EQ(ending.exitCode, 1) << ending.err;
     EXPECT_EQ(ending.out, "");

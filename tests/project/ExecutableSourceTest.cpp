@@ -10,7 +10,7 @@ using testing::StartsWith;
 class ExecutableSourceTest : public CommandTest {
 protected:
   static Ending importBy(const std::string& script, const std::vector<std::string>& more = {}) {
-    std::vector<std::string> words{"basin.db", "--quiet", "--query-executable", executable(script)};
+    std::vector<std::string> words{"basin.db", "--quiet", "--no-check", "--query-executable", executable(script)};
     words.insert(words.end(), more.begin(), more.end());
     return import(words);
   }

@@ -53,12 +53,12 @@ void checkSize(Inspection& inspection) {
   }
 }
 
-bool isWithoutNodes(const Inspection& inspection, const Table& table) {
+bool isWithoutNodes(const Inspection& inspection, const LegacyTable& table) {
   return inspection.schema.needsNodesForFlows && table.layout == Layout::period && inspection.elements.areNodesKnown &&
          inspection.elements.nodes.empty();
 }
 
-void checkTable(Inspection& inspection, const Table& table) {
+void checkTable(Inspection& inspection, const LegacyTable& table) {
   switch (table.layout) {
   case Layout::settings:
     return checkSettings(inspection);
@@ -89,16 +89,19 @@ CheckResult resultOf(Inspection& inspection) {
 
 } // namespace
 
-CheckResult checkProject(Lagomare::QuerySource& source, Dialect dialect, const CheckProgress& progress) {
+CheckResult checkProject(Lagomare::QuerySource& source, Dialect dialect, const std::string& lockFile,
+                         const CheckProgress& progress) {
   const Schema& schema = schemaOf(dialect);
   Inspection inspection{source, dialect, schema, listTables(source), {}, {}, {}, {}, {}};
   std::size_t tablesDone = 0;
-  for (const Table& table : schema.tables) {
+  for (const LegacyTable& table : schema.tables) {
     if (progress)
       progress(tablesDone++, schema.tables.size());
     checkTable(inspection, table);
   }
   checkNetwork(inspection);
+  if (!lockFile.empty())
+    inspection.findings.add(Code::lockFile, {}, [&] { return "there is " + lockFile; });
   return resultOf(inspection);
 }
 

@@ -1,5 +1,7 @@
 #include "tools/check/CheckResult.h"
 
+#include "tools/check/Rule.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -13,6 +15,13 @@ std::size_t CheckResult::count(Severity severity) const {
 std::size_t CheckResult::numOfRowsNotTaken() const {
   return std::accumulate(tables.begin(), tables.end(), std::size_t{0},
                          [](std::size_t sum, const TableCount& table) { return sum + table.rows - table.taken; });
+}
+
+std::size_t CheckResult::numOfRowsTakenOtherwise() const {
+  std::size_t rows = 0;
+  for (const Fault& fault : faults)
+    rows += ruleOf(fault).rows == Rows::takenOtherwise ? fault.rows : 0;
+  return rows;
 }
 
 } // namespace LagomareTools

@@ -26,6 +26,7 @@ struct CheckResult {
   [[nodiscard]] std::size_t count(Severity severity) const;
   /// Over all tables.
   [[nodiscard]] std::size_t numOfRowsNotTaken() const;
+  [[nodiscard]] std::size_t numOfRowsTakenOtherwise() const;
 };
 
 } // namespace LagomareTools

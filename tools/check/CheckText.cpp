@@ -38,18 +38,10 @@ std::string placeOf(const Fault& fault) {
   return place;
 }
 
-/// The meaning of a code stands in its rule.
-const Rule& ruleOf(const std::string& slug) {
-  std::size_t code = 0;
-  while (slug != ruleOf(static_cast<Code>(code)).slug)
-    ++code;
-  return ruleOf(static_cast<Code>(code));
-}
-
 using Faults = std::vector<Fault>::const_iterator;
 
 std::string textOfCode(Faults begin, Faults end, bool listsAll) {
-  const Rule& rule = ruleOf(begin->code);
+  const Rule& rule = ruleOf(*begin);
   std::string text = fmt::format("\n{}: {}\n  {}\n", nameOf(rule.severity), rule.slug, rule.meaning);
   const auto count = static_cast<std::size_t>(end - begin);
   const std::size_t listed = listsAll ? count : std::min(count, mostOfEach);
@@ -114,7 +106,7 @@ std::string rulesText() {
     }
     severity = rule.severity;
     text += fmt::format("\n### {}\n\n{}{}\n\nTo mend: {}\n", rule.slug, rule.meaning,
-                        rule.isOfRowsNotTaken ? " These rows are not taken." : "", rule.remedy);
+                        rule.rows == Rows::notTaken ? " These rows are not taken." : "", rule.remedy);
   }
   return text;
 }

@@ -36,8 +36,12 @@ std::optional<std::string_view> fieldOf(TableRows& rows, std::size_t column) {
     Place place = rows.place(column);
     place.id.reset();
     place.element = {};
-    rows.add(Code::columnMissing, place,
-             [&] { return "the row has only " + std::to_string(rows.fields().size()) + " fields"; });
+    rows.add(Code::columnMissing, place, [&] {
+      return "the row ends before it" +
+             std::string(rows.table().isReadWhole
+                             ? ""
+                             : "; a query executable must write one more field at the end of each line");
+    });
   }
   return text;
 }

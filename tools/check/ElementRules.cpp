@@ -11,7 +11,7 @@ namespace LagomareTools {
 namespace {
 
 std::optional<Kind> kindOf(TableRows& rows) {
-  const Table& table = rows.table();
+  const LegacyTable& table = rows.table();
   const std::size_t column = table.columnOf(Type::code);
   if (column == table.columns.size())
     return table.owners.front();
@@ -75,7 +75,7 @@ void readLink(TableRows& rows, std::map<std::uint32_t, LinkRow>& links) {
   const auto id = readId(rows);
   if (!id)
     return;
-  const Table& table = rows.table();
+  const LegacyTable& table = rows.table();
   LinkRow link{{Kind::link, table.name, rows.number(), plainText(rows.at(table.columnOf(Type::text)).value_or(""))}};
   const auto [known, isNew] = links.try_emplace(*id, link);
   rows.setOwner(id, known->second.name);
@@ -118,14 +118,14 @@ void reportPartners(TableRows& rows, Elements& elements) {
 
 } // namespace
 
-void checkNodes(Inspection& inspection, const Table& table) {
+void checkNodes(Inspection& inspection, const LegacyTable& table) {
   TableRows rows(inspection, table);
   while (rows.next())
     readNode(rows, inspection.elements);
   inspection.elements.areNodesKnown = inspection.elements.areNodesKnown && rows.isRead();
 }
 
-void checkLinks(Inspection& inspection, const Table& table) {
+void checkLinks(Inspection& inspection, const LegacyTable& table) {
   TableRows rows(inspection, table);
   while (rows.next())
     readLink(rows, inspection.elements.links);

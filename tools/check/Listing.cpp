@@ -26,20 +26,20 @@ bool isOfSystem(std::string_view table) {
 /// Some executables answer every query with something.
 bool holdsTableOfDialect(const Listing& listing) {
   for (const Dialect dialect : allDialects)
-    for (const Table& table : schemaOf(dialect).tables)
+    for (const LegacyTable& table : schemaOf(dialect).tables)
       if (findTable(listing, table.name) != nullptr)
         return true;
   return false;
 }
 
-const Table* findDescription(const Schema& schema, std::string_view name) {
+const LegacyTable* findDescription(const Schema& schema, std::string_view name) {
   const auto found = std::find_if(schema.tables.begin(), schema.tables.end(),
-                                  [name](const Table& table) { return isSameName(table.name, name); });
+                                  [name](const LegacyTable& table) { return isSameName(table.name, name); });
   return found == schema.tables.end() ? nullptr : &*found;
 }
 
 /// Where the import uses only some columns of a row, months included: those tell what is meant, but are not looked at.
-bool isReadByImport(const Table& table, const Column& column) {
+bool isReadByImport(const LegacyTable& table, const LegacyColumn& column) {
   switch (column.type) {
   case Type::unread:
   case Type::year:
@@ -52,10 +52,10 @@ bool isReadByImport(const Table& table, const Column& column) {
   }
 }
 
-std::vector<std::string> unreadColumns(const ListedTable& listed, const Table& table) {
+std::vector<std::string> unreadColumns(const ListedTable& listed, const LegacyTable& table) {
   std::vector<std::string> unread;
   for (std::size_t at = 0; at < listed.columns.size(); ++at) {
-    const auto isThis = [&](const Column& column) { return isSameName(column.name, listed.columns[at]); };
+    const auto isThis = [&](const LegacyColumn& column) { return isSameName(column.name, listed.columns[at]); };
     const auto byName = std::find_if(table.columns.begin(), table.columns.end(), isThis);
     const auto end = static_cast<std::ptrdiff_t>(std::min(at, table.columns.size()));
     const bool countsByName = !table.isReadWhole || (byName != table.columns.end() && byName->type == Type::code);
@@ -103,7 +103,7 @@ const ListedTable* findTable(const Listing& listing, std::string_view name) {
 std::vector<NotRead> findNotRead(const Listing& listing, const Schema& schema) {
   std::vector<NotRead> notRead;
   for (const ListedTable& listed : listing) {
-    const Table* const table = findDescription(schema, listed.name);
+    const LegacyTable* const table = findDescription(schema, listed.name);
     if (table == nullptr)
       notRead.push_back({listed.name, std::nullopt});
     else if (auto columns = unreadColumns(listed, *table); !columns.empty())

@@ -23,7 +23,7 @@ std::uint64_t keyOf(std::uint32_t id, unsigned state) { return std::uint64_t{id}
 
 } // namespace
 
-OwnedRows::OwnedRows(Inspection& inspection, const Table& table)
+OwnedRows::OwnedRows(Inspection& inspection, const LegacyTable& table)
     : inspection_(inspection), rows_(inspection, table), stateColumn_(table.columnOf(Type::state)) {}
 
 void OwnedRows::run() {
@@ -73,16 +73,17 @@ std::optional<Code> OwnedRows::whyNotAsked(unsigned state) const {
   return Code::stateNotRead;
 }
 
-/// The import does not look at the id of such a row, and neither does an error.
+void OwnedRows::setOwnerIfKnown() {
+  if (Lagomare::lengthOfUnsigned(idText_) == 0)
+    return;
+  const std::uint32_t id = Lagomare::toUnsigned(idText_);
+  const ElementRow* const element = inspection_.elements.find(id, table().owners);
+  rows_.setOwner(id, element == nullptr ? "" : std::string_view(element->name));
+}
+
 void OwnedRows::reportUnasked(Code code) {
-  if (Lagomare::lengthOfUnsigned(idText_) != 0) {
-    const std::uint32_t id = Lagomare::toUnsigned(idText_);
-    const ElementRow* const element = inspection_.elements.find(id, table().owners);
-    rows_.setOwner(id, element == nullptr ? "" : std::string_view(element->name));
-  }
+  setOwnerIfKnown();
   const auto message = [&] {
-    if (code == Code::limitOfOtherState)
-      return "the limit of state " + stateText_ + " stays behind";
     return quoted(stateText_) + (numOfStates() == 0 ? " is not 1, and the project does not ask for states"
                                                     : " is none of the states 1 to " + std::to_string(numOfStates()));
   };

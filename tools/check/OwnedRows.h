@@ -11,7 +11,7 @@ namespace LagomareTools {
 /// whose id it does not know, and gives the others to the rules of a layout.
 class OwnedRows {
 public:
-  OwnedRows(Inspection& inspection, const Table& table);
+  OwnedRows(Inspection& inspection, const LegacyTable& table);
   virtual ~OwnedRows() = default;
   OwnedRows(const OwnedRows&) = delete;
   OwnedRows& operator=(const OwnedRows&) = delete;
@@ -32,16 +32,20 @@ protected:
   [[nodiscard]] virtual bool splitsByState() const { return false; }
   /// Whether the import asks for rows of a state; 0 is none. The code says why not.
   [[nodiscard]] virtual std::optional<Code> whyNotAsked(unsigned state) const;
+  /// A row that the import does not ask for: neither the import nor an error looks at its id.
+  virtual void reportUnasked(Code code);
   /// The current row, counted in the slot already.
   virtual void addRow(Slot& slot) = 0;
   /// Called for each element that the table is about once all rows are read, in order of id.
   virtual void finish(std::uint32_t id, const ElementRow& element) = 0;
 
-  [[nodiscard]] const Table& table() const { return rows_.table(); }
+  [[nodiscard]] const LegacyTable& table() const { return rows_.table(); }
   /// 0 where the project does not ask for states.
   [[nodiscard]] unsigned numOfStates() const { return inspection_.settings.numOfStates; }
   /// Of the current row.
   [[nodiscard]] unsigned state() const { return state_; }
+  /// Makes the element with the id in the current row its owner, if there is one.
+  void setOwnerIfKnown();
   /// Null where there is no row.
   [[nodiscard]] const Slot* find(std::uint32_t id, unsigned state) const;
   [[nodiscard]] std::size_t numOfSlots() const { return slots_.size(); }
@@ -60,7 +64,6 @@ protected:
 
 private:
   void locate();
-  void reportUnasked(Code code);
   void reportUnknown(std::uint32_t id);
   [[nodiscard]] Slot& slotOf(std::uint32_t id, const ElementRow& element, unsigned state);
 

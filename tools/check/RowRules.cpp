@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace LagomareTools {
 
@@ -28,12 +29,31 @@ private:
     return state == 0 ? Code::stateNotRead : Code::limitOfOtherState;
   }
 
+  /// Limits of other states that are the same as that of state 1 are one fault of the table.
+  void reportUnasked(Code code) override {
+    if (code != Code::limitOfOtherState)
+      return OwnedRows::reportUnasked(code);
+    const std::size_t column = table().columnOf(Type::number);
+    const std::string limit(rows_.at(column).value_or(""));
+    const auto first = limits_.find(rows_.at(0).value_or(""));
+    if (first != limits_.end() && first->second == limit)
+      return leave(code, Place{table().name, rows_.number()},
+                   [] { return "they are the same as the limits of state 1, whose links they belong to"; });
+    setOwnerIfKnown();
+    leave(code, rows_.place(column), [&] {
+      return "the limit " + quoted(limit) + " of state " + std::to_string(state()) + " stays behind" +
+             (first == limits_.end() ? "" : "; that of state 1 is " + quoted(first->second));
+    });
+  }
+
   void addRow(Slot& slot) override {
     if (slot.rows > 1) {
       const auto message = [&slot] { return "row " + std::to_string(slot.firstRow) + " counts"; };
       return leave(Code::repeatedId, rows_.place(), message);
     }
     take(slot);
+    if (table().layout == Layout::firstState)
+      limits_.emplace(*rows_.at(0), rows_.at(table().columnOf(Type::number)).value_or(""));
     if (table().columnOf(Meaning::maximumVolume) < table().columns.size()) {
       if (const auto volumes = readVolumes(rows_))
         inspection_.elements.volumes.emplace(slot.id, *volumes);
@@ -56,6 +76,8 @@ private:
     if (find(id, 0) == nullptr)
       reportAbsence(id, element, std::string("there is no row for it, so ") + table().ifAbsent);
   }
+
+  std::map<std::string, std::string, std::less<>> limits_; ///< of state 1, by id, as they stand in the database
 };
 
 /// All rows of an id are a reservoir's curve, in their order.
@@ -180,7 +202,7 @@ private:
 
 } // namespace
 
-void checkOwnedRows(Inspection& inspection, const Table& table) {
+void checkOwnedRows(Inspection& inspection, const LegacyTable& table) {
   switch (table.layout) {
   case Layout::points:
     return Curves(inspection, table).run();

@@ -68,16 +68,24 @@ enum class Code {
 };
 constexpr std::size_t numOfCodes = static_cast<std::size_t>(Code::networkInParts) + 1;
 
+/// What a warning means for the rows that its faults stand for.
+enum class Rows {
+  none,           ///< nothing
+  notTaken,       ///< the import does not take them; each such row has one such fault
+  takenOtherwise, ///< they come in otherwise than they are meant
+};
+
 /// A code as users see it. Static texts.
 struct Rule {
   Code code;
   const char* slug; ///< never changed once published
   Severity severity;
-  bool isOfRowsNotTaken; ///< its faults stand for rows that the import does not take; each such row has one such fault
+  Rows rows;
   const char* meaning;
   const char* remedy;
 };
 
 [[nodiscard]] const Rule& ruleOf(Code code);
+[[nodiscard]] const Rule& ruleOf(const Fault& fault);
 
 } // namespace LagomareTools

@@ -9,13 +9,13 @@ namespace LagomareTools {
 /// The period, the switch of the states, the refusals.
 void checkSettings(Inspection& inspection);
 /// The boundaries between the hydrological states.
-void checkBoundaries(Inspection& inspection, const Table& table);
+void checkBoundaries(Inspection& inspection, const LegacyTable& table);
 /// A table whose rows make nodes.
-void checkNodes(Inspection& inspection, const Table& table);
+void checkNodes(Inspection& inspection, const LegacyTable& table);
 /// The table whose rows make links, their ends, and the two-way pairs.
-void checkLinks(Inspection& inspection, const Table& table);
+void checkLinks(Inspection& inspection, const LegacyTable& table);
 /// A table whose first column names an element that has been found by now.
-void checkOwnedRows(Inspection& inspection, const Table& table);
+void checkOwnedRows(Inspection& inspection, const LegacyTable& table);
 /// Names, positions, and how the links join the nodes.
 void checkNetwork(Inspection& inspection);
 

@@ -16,7 +16,7 @@ bool isOfDrain(double value) { return !(0.0 > NumericalUtils::subtractDoubles(va
 
 class SeriesRules : public OwnedRows {
 public:
-  SeriesRules(Inspection& inspection, const Table& table)
+  SeriesRules(Inspection& inspection, const LegacyTable& table)
       : OwnedRows(inspection, table), months_(rows_, inspection.settings.interval) {
     while (table.columns[valueColumn_].type != Type::number)
       ++valueColumn_;
@@ -200,6 +200,6 @@ void SeriesRules::reportOrder(const Slot& slot) {
 
 } // namespace
 
-void checkSeries(Inspection& inspection, const Table& table) { SeriesRules(inspection, table).run(); }
+void checkSeries(Inspection& inspection, const LegacyTable& table) { SeriesRules(inspection, table).run(); }
 
 } // namespace LagomareTools

@@ -5,6 +5,6 @@
 namespace LagomareTools {
 
 /// A table of series: one row per month of the period, or twelve that repeat every year.
-void checkSeries(Inspection& inspection, const Table& table);
+void checkSeries(Inspection& inspection, const LegacyTable& table);
 
 } // namespace LagomareTools

@@ -51,7 +51,7 @@ private:
   void reportBadStart(Meaning meaning, const std::string& reason);
 
   Inspection& inspection_;
-  const Table& table_;
+  const LegacyTable& table_;
   TableRows rows_;
   std::optional<SettingsRow> chosen_;
   bool areKeysGood_ = true; ///< of the rows that do not count

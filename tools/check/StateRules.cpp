@@ -48,7 +48,7 @@ std::map<std::uint32_t, Boundary> readBoundaries(TableRows& rows) {
 
 } // namespace
 
-void checkBoundaries(Inspection& inspection, const Table& table) {
+void checkBoundaries(Inspection& inspection, const LegacyTable& table) {
   if (!inspection.settings.askForStates) {
     reportNotRead(inspection, table, "the general settings do not ask for hydrological states");
     return;

@@ -10,23 +10,23 @@ namespace LagomareTools {
 
 namespace {
 
-std::string sqlNameOf(const Table& table, const Column& column) {
+std::string sqlNameOf(const LegacyTable& table, const LegacyColumn& column) {
   const std::string name = column.name;
   return table.layout == Layout::settings && column.type == Type::date ? "FORMAT(" + name + ", 'dd/mm/yyyy')" : name;
 }
 
-bool countsByPosition(const Table& table, const Column& column) {
+bool countsByPosition(const LegacyTable& table, const LegacyColumn& column) {
   return table.isReadWhole && column.type != Type::unread && column.type != Type::code;
 }
 
 /// The import asks for the ids of nodes and links by name before it reads their tables.
-bool isFoundByName(const Table& table, const Column& column) {
+bool isFoundByName(const LegacyTable& table, const LegacyColumn& column) {
   const bool makesElements = table.layout == Layout::nodes || table.layout == Layout::links;
   return !table.isReadWhole || column.type == Type::code || (makesElements && column.type == Type::id);
 }
 
 /// Nothing where that is refused.
-std::optional<std::size_t> countRows(Lagomare::QuerySource& source, const Table& table) {
+std::optional<std::size_t> countRows(Lagomare::QuerySource& source, const LegacyTable& table) {
   try {
     RowReader answer(source, std::string("select count(*) from ") + table.name, false);
     if (!answer.next() || answer.fields().empty())
@@ -40,12 +40,12 @@ std::optional<std::size_t> countRows(Lagomare::QuerySource& source, const Table&
 
 } // namespace
 
-bool tellsMonth(const Table& table, const Column& column) {
+bool tellsMonth(const LegacyTable& table, const LegacyColumn& column) {
   return table.layout != Layout::settings &&
          (column.type == Type::date || column.type == Type::year || column.type == Type::month);
 }
 
-void reportNotRead(Inspection& inspection, const Table& table, const std::string& reason) {
+void reportNotRead(Inspection& inspection, const LegacyTable& table, const std::string& reason) {
   const auto rows = countRows(inspection.source, table);
   if (!rows)
     return;
@@ -56,7 +56,7 @@ void reportNotRead(Inspection& inspection, const Table& table, const std::string
     inspection.findings.add(Code::tableNotRead, place, [&reason] { return reason; });
 }
 
-TableRows::TableRows(Inspection& inspection, const Table& table)
+TableRows::TableRows(Inspection& inspection, const LegacyTable& table)
     : inspection_(inspection), table_(table), places_(table.columns.size()) {
   if (findColumns())
     open();
@@ -80,7 +80,7 @@ bool TableRows::findColumns() {
 bool TableRows::findColumnsByName(const ListedTable& listed) {
   bool areFound = true;
   for (std::size_t at = 0; at < table_.columns.size(); ++at) {
-    const Column& column = table_.columns[at];
+    const LegacyColumn& column = table_.columns[at];
     const std::size_t found = listed.columnOf(column.name);
     if (!isFoundByName(table_, column))
       continue;
@@ -103,7 +103,7 @@ bool TableRows::findColumnsByName(const ListedTable& listed) {
 bool TableRows::findColumnsByPosition(const ListedTable& listed) {
   bool isFirstTheId = true;
   for (std::size_t at = 0; at < std::min(table_.columns.size(), listed.columns.size()); ++at) {
-    const Column& column = table_.columns[at];
+    const LegacyColumn& column = table_.columns[at];
     const std::string& found = listed.columns[at];
     if (!countsByPosition(table_, column) || listed.columnOf(column.name) == at)
       continue;

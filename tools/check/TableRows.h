@@ -11,13 +11,13 @@ class TableRows {
 public:
   /// Asks for the table. Where that fails the reason is among the findings, and there are no rows. Both must outlive
   /// this.
-  TableRows(Inspection& inspection, const Table& table);
+  TableRows(Inspection& inspection, const LegacyTable& table);
   TableRows(const TableRows&) = delete;
   TableRows& operator=(const TableRows&) = delete;
 
   /// Whether the table could be read: to its end, once next() has returned false.
   [[nodiscard]] bool isRead() const { return isRead_; }
-  [[nodiscard]] const Table& table() const { return table_; }
+  [[nodiscard]] const LegacyTable& table() const { return table_; }
 
   /// Goes to the next row, which has no owner yet. False after the last one.
   [[nodiscard]] bool next();
@@ -56,7 +56,7 @@ private:
   void refuse(const std::string& reason);
 
   Inspection& inspection_;
-  const Table& table_;
+  const LegacyTable& table_;
   TableCount* count_ = nullptr;                    ///< the last one of the inspection
   std::vector<std::optional<std::size_t>> places_; ///< of each column among the fields
   std::optional<RowReader> reader_;
@@ -67,9 +67,9 @@ private:
 };
 
 /// Whether a column tells what a row is meant to be, without the import looking at it.
-[[nodiscard]] bool tellsMonth(const Table& table, const Column& column);
+[[nodiscard]] bool tellsMonth(const LegacyTable& table, const LegacyColumn& column);
 
 /// For a table that the import does not ask for, and why: its rows are counted, and none of them is taken.
-void reportNotRead(Inspection& inspection, const Table& table, const std::string& reason);
+void reportNotRead(Inspection& inspection, const LegacyTable& table, const std::string& reason);
 
 } // namespace LagomareTools

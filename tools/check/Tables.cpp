@@ -20,18 +20,19 @@ const char* nameOf(Kind kind) {
   return "link";
 }
 
-std::size_t Table::columnOf(Type type) const {
-  const auto found = std::find_if(columns.begin(), columns.end(), [type](const Column& c) { return c.type == type; });
-  return static_cast<std::size_t>(found - columns.begin());
-}
-
-std::size_t Table::columnOf(Meaning meaning) const {
+std::size_t LegacyTable::columnOf(Type type) const {
   const auto found =
-      std::find_if(columns.begin(), columns.end(), [meaning](const Column& c) { return c.meaning == meaning; });
+      std::find_if(columns.begin(), columns.end(), [type](const LegacyColumn& c) { return c.type == type; });
   return static_cast<std::size_t>(found - columns.begin());
 }
 
-bool Table::isOwnedBy(Kind kind) const { return std::find(owners.begin(), owners.end(), kind) != owners.end(); }
+std::size_t LegacyTable::columnOf(Meaning meaning) const {
+  const auto found =
+      std::find_if(columns.begin(), columns.end(), [meaning](const LegacyColumn& c) { return c.meaning == meaning; });
+  return static_cast<std::size_t>(found - columns.begin());
+}
+
+bool LegacyTable::isOwnedBy(Kind kind) const { return std::find(owners.begin(), owners.end(), kind) != owners.end(); }
 
 const Schema& schemaOf(Dialect dialect) { return dialect == Dialect::of2010 ? schemaOf2010() : schemaOf2013(); }
 

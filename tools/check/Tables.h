@@ -60,7 +60,7 @@ enum class Meaning {
   loss
 };
 
-struct Column {
+struct LegacyColumn {
   const char* name;
   Type type;
   Meaning meaning = Meaning::none;
@@ -81,12 +81,12 @@ enum class Layout {
 };
 
 /// A table of a dialect. Texts are static.
-struct Table {
+struct LegacyTable {
   const char* name;
   Layout layout;
-  bool isReadWhole;            ///< by "select *": the columns count by their position
-  std::vector<Column> columns; ///< in stored order
-  std::vector<Kind> owners;    ///< the kinds whose ids stand in the first column; of nodes: the kinds that it makes
+  bool isReadWhole;                  ///< by "select *": the columns count by their position
+  std::vector<LegacyColumn> columns; ///< in stored order
+  std::vector<Kind> owners; ///< the kinds whose ids stand in the first column; of nodes: the kinds that it makes
   /// What an element without rows keeps, as a sentence about it; nothing where every element stands in the table.
   const char* ifAbsent = "";
   bool flag = false; ///< of the import's first query on this table
@@ -100,8 +100,8 @@ struct Table {
 
 /// What the import does alike with all tables of a dialect, but not with those of the other.
 struct Schema {
-  std::vector<Table> tables; ///< settings, boundaries, nodes, links, then the others
-  bool isStatesSwitchZero;   ///< 0 asks for hydrological states, in place of any other number
+  std::vector<LegacyTable> tables; ///< settings, boundaries, nodes, links, then the others
+  bool isStatesSwitchZero;         ///< 0 asks for hydrological states, in place of any other number
   /// Natural flows are read once for each kind of node that has rows, and for reservoirs even without: a project
   /// without nodes is not asked for them in 2010.
   bool needsNodesForFlows;

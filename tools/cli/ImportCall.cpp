@@ -44,10 +44,8 @@ void ImportCall::addOutputs() {
       ->type_name("FORMAT")
       ->check(CLI::IsMember({"rfc4180", "excel-br"}))
       ->group(hiddenGroup);
-  command_
-      .add_flag_callback(
-          "--no-check", [this] { options_.isChecked = false; }, "Import without looking for faults first")
-      ->group(hiddenGroup);
+  command_.add_flag_callback(
+      "--no-check", [this] { options_.isChecked = false; }, "Import without looking for faults first");
 }
 
 ImportOptions ImportCall::options() {

@@ -1,5 +1,6 @@
 #include "tools/cli/ImportCommand.h"
 
+#include "tools/cli/CheckCommand.h"
 #include "tools/cli/Outputs.h"
 #include "tools/cli/Progress.h"
 #include "tools/cli/Summary.h"
@@ -41,12 +42,15 @@ int importProject(const ImportOptions& options) {
   if (const auto lock = project.lockFile(); !lock.empty())
     printWarning(project.name() + ": another program may have it open: its lock file " + lock.filename().u8string() +
                  " stands beside it");
+  std::optional<std::vector<Fault>> faults;
+  if (options.isChecked)
+    faults = checkBeforeImport(project, options.isQuiet).faults;
   const ExportInput input{importWithProgress(project, options.isQuiet),
                           project.name(),
                           project.utmZone(),
                           project.isZoneAssumed(),
                           options.csvFormat,
-                          {}};
+                          std::move(faults)};
   outputs.write(input);
   if (!options.isQuiet && !outputs.takeStandardOutput())
     writeToStandardOutput(summaryOf(input));

@@ -1,3 +1,4 @@
+#include "tools/cli/CheckCommand.h"
 #include "tools/cli/ImportCommand.h"
 #include "tools/system/Failure.h"
 #include "tools/system/Interruption.h"
@@ -23,7 +24,7 @@ int runCommand(const Options& options) {
   }
   if (const auto* const import = std::get_if<ImportOptions>(&options))
     return importProject(*import);
-  throw Failure("lagomare check is not there yet");
+  return runCheck(std::get<CheckOptions>(options));
 }
 
 } // namespace

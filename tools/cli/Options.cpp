@@ -12,10 +12,11 @@ namespace LagomareTools {
 
 namespace {
 
-constexpr const char* appFooter = R"(Example:
+constexpr const char* appFooter = R"(Examples:
+  lagomare check basin.mdb
   lagomare import basin.mdb --json basin.json
 
-See lagomare import --help for the options.)";
+See lagomare check --help and lagomare import --help for the options.)";
 
 /// CLI11 would take the next word for the value.
 void requireValues(int argumentCount, const char* const* arguments) {
