@@ -73,7 +73,7 @@ TEST_F(CheckCommandTest, ComesBeforeAnImport) {
   const Ending failed = import({"basin.db", "--json", "other.json"});
   EXPECT_EQ(failed.exitCode, 1);
   EXPECT_THAT(failed.err, StartsWith("lagomare: not-a-number: Tk_Gerais, row 1, column TipoSimul: an empty field"));
-  EXPECT_THAT(failed.err, EndsWith("\nlagomare: error: basin.db: 13 errors, nothing is imported; see lagomare check "
+  EXPECT_THAT(failed.err, EndsWith("\nlagomare: error: basin.db: 12 errors, nothing is imported; see lagomare check "
                                    "basin.db\n"));
   EXPECT_EQ(std::count(failed.err.begin(), failed.err.end(), '\n'), 11);
   EXPECT_FALSE(std::filesystem::exists("other.json"));
