@@ -75,11 +75,11 @@ TEST_F(ImportCommandTest, UsageErrorsHaveACodeOfTheirOwn) {
 
 TEST_F(ImportCommandTest, NamesUnexpectedWordsInTheirOrderAndWhatWasMeant) {
   const std::vector<std::pair<std::vector<std::string>, std::string>> calls{
-      {{LAGOMARE, "x.mdb"}, "\"x.mdb\"; did you mean: lagomare import x.mdb?"},
-      {{LAGOMARE, "imprt", "x.mdb"}, "did you mean: lagomare import?"},
-      {{LAGOMARE, "import", "x.mdb", "--jsn=a", "b"}, "\"--jsn=a\" \"b\"; did you mean --json?"},
-      {{LAGOMARE, "import", "a", "b", "c"}, "unexpected words: \"b\" \"c\"; one project at a time"},
-      {{LAGOMARE, "--json", "a", "import", "b"}, "the command comes first"}};
+      {{LAGOMARE, "x.mdb", "y"}, "not a command: \"x.mdb\" \"y\"; did you mean: lagomare import x.mdb ("},
+      {{LAGOMARE, "--json", "a", "import", "b"}, "not a command: \"--json\" \"a\""},
+      {{LAGOMARE, "import", "--jsn=a", "--", "b", "c"}, "unexpected: \"--jsn=a\" \"c\"; there is no such option"},
+      {{LAGOMARE, "import", "--jsn"}, "unexpected: \"--jsn\"; there is no such option"},
+      {{LAGOMARE, "import", "a", "b", "c"}, "unexpected: \"b\" \"c\"; one project at a time"}};
   for (const auto& [words, text] : calls)
     EXPECT_THAT(run(words).err, HasSubstr(text));
 }

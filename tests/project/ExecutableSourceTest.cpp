@@ -37,7 +37,7 @@ TEST_F(ExecutableSourceTest, AnAnswerThatWasNotWrittenIsAnError) {
     // Late, when an old answer could be read again.
     const Ending ending = importBy("case \"$2\" in *LgmResPrior) " + fault + ";; esac; answer \"$@\"");
     EXPECT_EQ(ending.exitCode, 1) << fault;
-    EXPECT_THAT(ending.err, AllOf(HasSubstr("table LgmResPrior: cannot be read: the query executable /"),
+    EXPECT_THAT(ending.err, AllOf(HasSubstr("basin.db: cannot be read: the query executable /"),
                                   HasSubstr("own query did not answer")));
     if (fault.find("order") != std::string::npos) {
       EXPECT_THAT(ending.err, HasSubstr("did not answer: out of order"));
@@ -52,9 +52,8 @@ TEST_F(ExecutableSourceTest, WithstandsHostileExecutables) {
   EXPECT_EQ(importBy("rm -rf \"$PWD\"", {"--dialect", "2013"}).exitCode, 1);
   EXPECT_EQ(importBy("rm -rf \"$PWD\"/*", {"--dialect", "2013"}).exitCode, 1);
   EXPECT_THAT(importBy("answer \"$@\"; sed -i 's/ [.]$//' query-result.txt", {"--dialect", "2013"}).err,
-              HasSubstr("one more field at the end of each line"));
-  EXPECT_THAT(importBy("answer \"$@\"; sed -i 's/ 1 0 [.]$/ ./' query-result.txt").err,
-              HasSubstr("column OptCalc is missing"));
+              HasSubstr("the table needs the columns of this dialect"));
+  EXPECT_THAT(importBy("answer \"$@\"; sed -i 's/ 1 0 [.]$/ ./' query-result.txt").err, HasSubstr("has no column 2"));
   writeFile("own query", "#!/no/such/interpreter\n");
   EXPECT_THAT(import({"basin.db", "--query-executable", "own query"}).err, HasSubstr("own query: No such file"));
 }

@@ -52,7 +52,9 @@ TEST_F(SessionSourceTest, AnAnswerWithoutItsEndLineIsNone) {
       } catch (const Failure& failure) {
         EXPECT_EQ(dynamic_cast<const QueryRefused*>(&failure), nullptr);
         EXPECT_THAT(failure.what(), StartsWith("basin.db: "));
-        EXPECT_EQ(std::string(failure.what()) == "basin.db: trouble", death.front() == 'e' && death.size() > 4) << end;
+        EXPECT_THAT(failure.what(), HasSubstr(death == "exit"         ? "code 0"
+                                              : death == "kill -9 $$" ? "killed"
+                                                                      : "trouble"));
       }
     }
 }

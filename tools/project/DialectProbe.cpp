@@ -2,57 +2,26 @@
 
 #include "access/Answer.h"
 #include "access/FieldError.h"
-#include "tools/project/ExecutableSource.h"
 #include "tools/project/QueryRefused.h"
 
 namespace LagomareTools {
 
 namespace {
 
-enum class Finding { held, missing, silence, failure };
-
-/// What came of asking for a table.
-struct Probe {
-  Finding finding;
-  std::string refusal; ///< why it is not held, in the words of the query executable
-};
-
-/// The bundled executable lists the tables, also those of an Access file.
-Probe askList(ProjectSource& source, const std::string& table) {
-  const auto answer = source.ask("select count(*) from sqlite_master where type in ('table', 'view') and lower(name) = "
-                                 "lower('" +
-                                     table + "')",
-                                 false);
-  const QueryResult rows = Lagomare::parseRows(*answer);
-  return {!rows.empty() && rows.begin()->first > 0 ? Finding::held : Finding::missing, "no such table: " + table};
-}
-
-std::string without(std::string text, const std::string& part) {
-  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part))
-    text.erase(at, part.size());
-  return text;
-}
-
-bool endsWith(const std::string& text, const std::string& end) {
-  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
-}
-
-/// A custom executable says in its own words that a table is missing, or says nothing. Some repeat the SQL in every
-/// error. The count has one row, also for an empty table.
-Probe askCount(ProjectSource& source, const std::string& table) {
-  const std::string sql = "select count(*) from " + table;
+/// Whether the database holds a table. The bundled executable lists its tables, those of an Access file too. A custom
+/// one counts the rows, in one row also for an empty table; its reason for not answering is added to `reasons`.
+bool isHeld(ProjectSource& source, const std::string& table, bool isBundled, std::string& reasons) {
+  const std::string listed = "sqlite_master where type in ('table', 'view') and lower(name) = lower('" + table + "')";
   try {
-    if (!Lagomare::parseRows(*source.ask(sql, false)).empty())
-      return {Finding::held, ""};
-    return {Finding::silence, "an empty answer to " + sql};
+    const auto rows = Lagomare::parseRows(*source.ask("select count(*) from " + (isBundled ? listed : table), false));
+    return !rows.empty() && (!isBundled || rows.begin()->first > 0);
   } catch (const QueryRefused& refusal) {
-    const std::string reason = refusal.what();
-    const bool isMissing = without(reason, sql).find(table) != std::string::npos;
-    return {isMissing ? Finding::missing : endsWith(reason, noReason) ? Finding::silence : Finding::failure, reason};
+    reasons += std::string("; ") + refusal.what();
   } catch (const Lagomare::FieldError& error) {
-    return {Finding::failure, "an answer that begins with \"" + error.text().value_or("") +
-                                  "\", which is no row: a number, a blank, one field more"};
+    reasons +=
+        "; it answered \"" + error.text().value_or("") + "\", which is no row: a number, a blank, one field more";
   }
+  return false;
 }
 
 std::string namesOfBoth(const char* conjunction) {
@@ -63,21 +32,15 @@ std::string namesOfBoth(const char* conjunction) {
 } // namespace
 
 Dialect findDialect(ProjectSource& source, bool isBundled, const std::string& projectName) {
-  const auto ask = isBundled ? askList : askCount;
-  const Probe of2010 = ask(source, settingsTableOf(Dialect::of2010));
-  const Probe of2013 = ask(source, settingsTableOf(Dialect::of2013));
-  const bool is2010 = of2010.finding == Finding::held;
-  const bool is2013 = of2013.finding == Finding::held;
-  for (const Probe& probe : {of2010, of2013})
-    if (probe.finding == Finding::failure || (probe.finding == Finding::silence && !is2010 && !is2013))
-      throw Failure(projectName + ": cannot find out whether it holds " + namesOfBoth("or") + ": " + probe.refusal +
-                    "; say which to read with --dialect");
+  std::string reasons;
+  const bool is2010 = isHeld(source, settingsTableOf(Dialect::of2010), isBundled, reasons);
+  const bool is2013 = isHeld(source, settingsTableOf(Dialect::of2013), isBundled, reasons);
   if (is2010 && is2013)
     throw Failure(projectName + ": holds both " + namesOfBoth("and") + "; say which to read with --dialect");
   if (!is2010 && !is2013)
     throw Failure(projectName + ": holds neither " + namesOfBoth("nor") +
                   "; check that it is the project's database and not another one" +
-                  (isBundled ? "" : " (the query executable says: " + of2013.refusal + ")"));
+                  (reasons.empty() ? "" : ". The query executable says" + reasons.replace(0, 1, ":")));
   return is2010 ? Dialect::of2010 : Dialect::of2013;
 }
 

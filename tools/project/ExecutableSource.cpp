@@ -1,8 +1,8 @@
 #include "tools/project/ExecutableSource.h"
 
 #include "access/LagomareProjectManager.h"
-#include "tools/project/Complaint.h"
 #include "tools/project/QueryRefused.h"
+#include "tools/system/ChildProcess.h"
 
 #include <cerrno>
 #include <fstream>
@@ -12,6 +12,8 @@ namespace LagomareTools {
 namespace {
 
 namespace fs = std::filesystem;
+
+const std::string noAnswer = "did not answer";
 
 /// The reason that an answer's first line gives in place of rows: "error: REASON .". Empty if it is no such line.
 std::string refusalIn(const std::string& line) {
@@ -37,8 +39,6 @@ void requireRows(std::istream& answer) {
 
 } // namespace
 
-const char* const noReason = "did not answer";
-
 ExecutableSource::ExecutableSource(fs::path executable, fs::path project)
     : executable_(std::move(executable)), project_(std::move(project)) {}
 
@@ -54,7 +54,7 @@ std::unique_ptr<std::istream> ExecutableSource::start(const std::string& sql, bo
   const std::string reason = complaint.empty() ? "" : ": " + complaint;
   const fs::file_type type = fs::symlink_status(file, error).type();
   if (!end.exitCode || type == fs::file_type::not_found)
-    throw QueryRefused(notAnswered(noReason + reason));
+    throw QueryRefused(notAnswered(noAnswer + reason));
   if (type != fs::file_type::regular)
     throw QueryRefused(notAnswered("wrote its answer into what is no ordinary file"));
   errno = 0;
@@ -62,7 +62,7 @@ std::unique_ptr<std::istream> ExecutableSource::start(const std::string& sql, bo
   if (!*answer)
     throw QueryRefused(notAnswered("wrote an answer that cannot be opened: " + systemText(errno)));
   if (*end.exitCode != 0 && !complaint.empty() && fs::is_empty(file, error))
-    throw QueryRefused(notAnswered(noReason + reason));
+    throw QueryRefused(notAnswered(noAnswer + reason));
   requireRows(*answer);
   return answer;
 }

@@ -21,7 +21,4 @@ private:
   PrivateDirectory directory_;
 };
 
-/// How the text of QueryRefused ends if the executable gave no reason.
-extern const char* const noReason;
-
 } // namespace LagomareTools

@@ -16,6 +16,10 @@ public:
   /// The SQL that was asked last; empty before the first query.
   [[nodiscard]] const std::string& lastSql() const { return lastSql_; }
 
+protected:
+  /// What a query executable complained of: the last line that says something. Empty if there is none.
+  [[nodiscard]] static std::string lastLineOf(const std::string& complaint);
+
 private:
   /// Runs a query.
   [[nodiscard]] virtual std::unique_ptr<std::istream> start(const std::string& sql, bool flag) = 0;

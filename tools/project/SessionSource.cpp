@@ -1,6 +1,5 @@
 #include "tools/project/SessionSource.h"
 
-#include "tools/project/Complaint.h"
 #include "tools/project/QueryRefused.h"
 
 #include <algorithm>
@@ -95,12 +94,14 @@ void SessionSource::skipRest() {
 }
 
 void SessionSource::failAsEnded() {
+  const std::string prefix = "lagomare-query: error: ";
   const ChildEnd end = process_.wait();
   const std::string complaint = lastLineOf(process_.complaint());
-  if (!complaint.empty())
-    throw Failure(projectName_ + ": " + complaint);
-  throw Failure(projectName_ + ": the query executable " + executable_.u8string() +
-                " ended before it had answered: " + textOf(end));
+  if (complaint.compare(0, prefix.size(), prefix) == 0)
+    throw Failure(projectName_ + ": " + complaint.substr(prefix.size()));
+  throw Failure(projectName_ + ": the query executable " + executable_.u8string() + " ended before it had answered, " +
+                (end.exitCode ? "with the exit code " + std::to_string(*end.exitCode) : "killed") +
+                (complaint.empty() ? "" : ": " + complaint));
 }
 
 } // namespace LagomareTools

@@ -24,7 +24,10 @@ public:
 
   [[nodiscard]] static bool isRequested() noexcept;
   /// Throws Interrupted if the program was asked to stop.
-  static void throwIfRequested();
+  static void throwIfRequested() {
+    if (isRequested())
+      throw Interrupted();
+  }
 
   static constexpr int exitCode = 130;
 };

@@ -3,8 +3,6 @@
 #include "tools/system/Failure.h"
 #include "tools/system/Interruption.h"
 #include "tools/system/posix/Descendants.h"
-#include "tools/system/posix/Pipe.h"
-#include "tools/system/posix/WakeUp.h"
 
 #include <algorithm>
 #include <array>
@@ -18,7 +16,6 @@
 #endif
 #include <sys/wait.h>
 #include <unistd.h>
-#include <utility>
 
 namespace LagomareTools {
 
@@ -26,26 +23,38 @@ namespace {
 
 constexpr std::size_t longestComplaint = 64 * 1024;
 
-/// All pipes of a child; the ends that nobody took over are closed.
-struct Pipes {
-  Pipe input;
-  Pipe output;
-  Pipe errors;
-  Pipe start; ///< tells the error number of a start that failed
+/// The ends of a pipe that this process holds; -1 where it does not.
+struct Pipe {
+  int reader = -1;
+  int writer = -1;
 
-  ~Pipes() {
-    for (Pipe* pipe : {&input, &output, &errors, &start}) {
-      closeDescriptor(pipe->reader);
-      closeDescriptor(pipe->writer);
-    }
+  Pipe() = default;
+  ~Pipe() {
+    close(reader);
+    close(writer);
+  }
+  Pipe(const Pipe&) = delete;
+  Pipe& operator=(const Pipe&) = delete;
+
+  /// The ends do not block, and other programs do not inherit them. Throws Failure.
+  void open() {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+      throw Failure("cannot make a pipe: " + systemText(errno));
+    reader = ends[0];
+    writer = ends[1];
+  }
+  static void close(int& end) {
+    if (end >= 0)
+      ::close(end);
+    end = -1;
   }
 };
 
-/// A child's end wakes this process; it must not be ignored either, or nobody could wait for it.
+/// The end of a child interrupts a wait. It must not be ignored either, or nobody could learn of it.
 void listenToChildren() {
-  static_cast<void>(WakeUp::descriptor());
   struct sigaction action {};
-  action.sa_handler = [](int) { WakeUp::send(); };
+  action.sa_handler = [](int) {};
   action.sa_flags = SA_RESTART | SA_NOCLDSTOP;
   ::sigaction(SIGCHLD, &action, nullptr);
   sigset_t signals;
@@ -54,12 +63,12 @@ void listenToChildren() {
   ::sigprocmask(SIG_UNBLOCK, &signals, nullptr); // whoever started this program may have blocked it
 }
 
-/// Puts a blocking descriptor, or else /dev/null, in the place of a standard stream.
+/// Puts a descriptor, or else /dev/null, in the place of a standard stream.
 void redirect(int standard, int descriptor) {
   if (descriptor < 0)
     descriptor = ::open("/dev/null", O_RDWR | O_CLOEXEC);
   else
-    ::fcntl(descriptor, F_SETFL, 0);
+    ::fcntl(descriptor, F_SETFL, 0); // it blocks, as programs expect
   ::dup2(descriptor, standard);
 }
 
@@ -71,27 +80,22 @@ void resetSignals() {
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-/// Turns this new process into the program. It is a group of its own, out of reach of a terminal's Ctrl-C.
-[[noreturn]] void become(const ChildCall& call, char* const* arguments, const Pipes& pipes, pid_t parent) {
+/// Turns this new process into the program. It becomes a group of its own, out of reach of a terminal's Ctrl-C. Returns
+/// if it cannot, with errno.
+void become(const ChildCall& call, char* const* arguments, pid_t parent) {
   ::setpgid(0, 0);
 #ifdef __linux__
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
 #endif
-  redirect(STDIN_FILENO, pipes.input.reader);
-  redirect(STDOUT_FILENO, pipes.output.writer);
-  redirect(STDERR_FILENO, pipes.errors.writer);
   resetSignals();
   const bool isReady = ::chdir(call.directory.c_str()) == 0 && ::setenv("TMPDIR", call.directory.c_str(), 1) == 0;
   if (isReady && ::getppid() == parent)
     ::execvp(call.executable.c_str(), arguments); // which also starts a script without an interpreter's line
-  const int error = errno;
-  static_cast<void>(::write(pipes.start.writer, &error, sizeof error) < 0);
-  ::_exit(EXIT_FAILURE);
 }
 
-/// Waits for the start; 0 where it succeeded.
+/// Waits until a new process has become its program. Returns 0, or the error number if it could not.
 int startError(Pipe& start) {
-  closeDescriptor(start.writer);
+  Pipe::close(start.writer);
   ::fcntl(start.reader, F_SETFL, 0);
   int error = 0;
   while (::read(start.reader, &error, sizeof error) < 0 && errno == EINTR) {
@@ -111,72 +115,83 @@ std::vector<char*> pointersTo(const std::string& executable, const std::vector<s
 
 struct ChildProcess::State {
   pid_t process = -1; ///< -1 when it has ended
-  int input = -1;     ///< this program's ends of the pipes, -1 where there is none
-  int output = -1;
-  int errors = -1;
+  Pipe input;
+  Pipe output;
+  Pipe errors;
   std::string complaint;
   ChildEnd ended;
 
-  ~State();
+  ~State() { end(); }
   void start(const ChildCall& call);
+  [[nodiscard]] bool hasEnded() const;
   void await(int descriptor, short events);
   bool readComplaint();
   void end() noexcept;
 };
 
-ChildProcess::State::~State() {
-  end();
-  for (int* descriptor : {&input, &output, &errors})
-    closeDescriptor(*descriptor);
-}
-
 void ChildProcess::State::start(const ChildCall& call) {
-  Pipes pipes;
-  if (call.hasPipes) {
-    pipes.input = makePipe();
-    pipes.output = makePipe();
-  }
-  pipes.errors = makePipe();
-  pipes.start = makePipe();
+  Pipe startPipe;
+  for (Pipe* pipe : {&errors, &startPipe})
+    pipe->open();
+  if (call.hasPipes)
+    for (Pipe* pipe : {&input, &output})
+      pipe->open();
   const std::string name = call.executable.string();
   const std::vector<char*> arguments = pointersTo(name, call.words);
   const pid_t parent = ::getpid();
   process = ::fork();
-  if (process == 0)
-    become(call, arguments.data(), pipes, parent);
+  if (process == 0) {
+    redirect(STDIN_FILENO, input.reader);
+    redirect(STDOUT_FILENO, output.writer);
+    redirect(STDERR_FILENO, errors.writer);
+    become(call, arguments.data(), parent);
+    const int error = errno;
+    static_cast<void>(::write(startPipe.writer, &error, sizeof error) < 0);
+    ::_exit(EXIT_FAILURE);
+  }
+  for (int* end : {&input.reader, &output.writer, &errors.writer})
+    Pipe::close(*end);
   Descendants::adopt(process);
-  const int error = process < 0 ? errno : startError(pipes.start);
-  if (error != 0)
+  if (const int error = process < 0 ? errno : startError(startPipe); error != 0)
     throw Failure("cannot start " + name + ": " + systemText(error));
-  input = std::exchange(pipes.input.writer, -1);
-  output = std::exchange(pipes.output.reader, -1);
-  errors = std::exchange(pipes.errors.reader, -1);
 }
 
-/// Waits for a descriptor, for the end of a child or for the user, and reads what the child complains of meanwhile.
+/// It can still be waited for.
+bool ChildProcess::State::hasEnded() const {
+  siginfo_t ending{};
+  return process < 0 || ::waitid(P_PID, static_cast<id_t>(process), &ending, WEXITED | WNOWAIT | WNOHANG) != 0 ||
+         ending.si_pid != 0;
+}
+
+/// Waits for a descriptor, or for the process where there is none; reads what it complains of meanwhile. Signals are
+/// held back until ppoll() waits, so that none of them can come too early to end the wait. Throws Interrupted.
 void ChildProcess::State::await(int descriptor, short events) {
-  std::array<pollfd, 3> awaited{{{WakeUp::descriptor(), POLLIN, 0}, {errors, POLLIN, 0}, {descriptor, events, 0}}};
-  if (::poll(awaited.data(), awaited.size(), -1) <= 0)
-    return;
-  if (awaited[0].revents != 0)
-    WakeUp::clear();
-  if (awaited[1].revents != 0)
-    static_cast<void>(readComplaint());
+  sigset_t all;
+  sigset_t usual;
+  sigfillset(&all);
+  ::sigprocmask(SIG_BLOCK, &all, &usual);
+  if (!Interruption::isRequested() && !(descriptor < 0 && hasEnded())) {
+    std::array<pollfd, 2> awaited{{{errors.reader, POLLIN, 0}, {descriptor, events, 0}}};
+    if (::ppoll(awaited.data(), awaited.size(), nullptr, &usual) > 0 && awaited[0].revents != 0)
+      static_cast<void>(readComplaint());
+  }
+  ::sigprocmask(SIG_SETMASK, &usual, nullptr);
+  Interruption::throwIfRequested();
 }
 
 /// Reads one block. False if there is none, or no more is wanted.
 bool ChildProcess::State::readComplaint() {
   std::array<char, 4096> block{};
-  const ssize_t got = errors < 0 ? -1 : ::read(errors, block.data(), block.size());
+  const ssize_t got = errors.reader < 0 ? -1 : ::read(errors.reader, block.data(), block.size());
   if (got == 0)
-    closeDescriptor(errors);
+    Pipe::close(errors.reader);
   if (got <= 0)
     return false;
   complaint.append(block.data(), std::min(static_cast<std::size_t>(got), longestComplaint - complaint.size()));
   return complaint.size() < longestComplaint;
 }
 
-/// Its group first: until the child has been waited for, no other group can have this number.
+/// Its group first: until the process has been waited for, no other group can have this number.
 void ChildProcess::State::end() noexcept {
   if (process < 0)
     return;
@@ -201,12 +216,11 @@ ChildProcess::~ChildProcess() = default;
 
 void ChildProcess::write(std::string_view text) {
   while (!text.empty()) {
-    Interruption::throwIfRequested();
-    const ssize_t written = ::write(state_->input, text.data(), text.size());
+    const ssize_t written = ::write(state_->input.writer, text.data(), text.size());
     if (written >= 0)
       text.remove_prefix(static_cast<std::size_t>(written));
     else if (errno == EAGAIN)
-      state_->await(state_->input, POLLOUT);
+      state_->await(state_->input.writer, POLLOUT);
     else if (errno != EINTR)
       return;
   }
@@ -215,24 +229,19 @@ void ChildProcess::write(std::string_view text) {
 std::size_t ChildProcess::read(char* buffer, std::size_t size) {
   for (;;) {
     Interruption::throwIfRequested();
-    const ssize_t got = ::read(state_->output, buffer, size);
+    const ssize_t got = ::read(state_->output.reader, buffer, size);
     if (got >= 0)
       return static_cast<std::size_t>(got);
     if (errno == EAGAIN)
-      state_->await(state_->output, POLLIN);
+      state_->await(state_->output.reader, POLLIN);
     else if (errno != EINTR)
       return 0;
   }
 }
 
 ChildEnd ChildProcess::wait() {
-  siginfo_t ended{};
-  while (state_->process >= 0 &&
-         ::waitid(P_PID, static_cast<id_t>(state_->process), &ended, WEXITED | WNOWAIT | WNOHANG) == 0 &&
-         ended.si_pid == 0) {
-    Interruption::throwIfRequested();
+  while (!state_->hasEnded())
     state_->await(-1, 0);
-  }
   state_->end();
   while (state_->readComplaint()) {
   }

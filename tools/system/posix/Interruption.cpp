@@ -1,7 +1,5 @@
 #include "tools/system/Interruption.h"
 
-#include "tools/system/posix/WakeUp.h"
-
 #include <array>
 #include <atomic>
 #include <csignal>
@@ -30,16 +28,14 @@ void handleSignal(int /*signal*/) {
   std::time_t first = 0;
   if (!firstRequest.compare_exchange_strong(first, secondsNow()) && secondsNow() - first >= shortestPause)
     ::_exit(Interruption::exitCode);
-  WakeUp::send();
 }
 
 } // namespace
 
 Interruption::Interruption() {
   firstRequest = 0;
-  static_cast<void>(WakeUp::descriptor());
   struct sigaction action {};
-  action.sa_handler = handleSignal; // without SA_RESTART: a write that blocks must end
+  action.sa_handler = handleSignal; // without SA_RESTART: what blocks must end
   sigfillset(&action.sa_mask);
   sigset_t heard;
   sigemptyset(&heard);
