@@ -5,6 +5,7 @@ usage: exports_test.py LAGOMARE PROJECT…    each project a database, or SQL te
 
 import csv
 import datetime
+import importlib.util
 import json
 import pathlib
 import shutil
@@ -155,9 +156,10 @@ def check_geopackage(file, expected):
                                    "is not null", [name]).fetchone()
         assert indexes == (0 if name in ("states", "scenario") else 1,), name
     database.close()
-    if not shutil.which("ogrinfo"):
-        print("ogrinfo is not installed: the GeoPackage is not opened with it")
+    if not shutil.which("ogrinfo") or not importlib.util.find_spec("osgeo_utils"):
+        print("gdal-bin and python3-gdal are not both installed: the GeoPackage is not opened with them")
         return
+    subprocess.run([sys.executable, "-m", "osgeo_utils.samples.validate_gpkg", file], check=True)
     ending = subprocess.run(["ogrinfo", "-ro", "-so", "-al", file], capture_output=True, text=True)
     assert ending.returncode == 0 and ending.stderr == "", ending
     for part in ["Geometry: Point", "Geometry: Line String", 'ID["EPSG",4674]', "date: Date", "value: Real",
@@ -256,33 +258,40 @@ def check_workbook(file, document, expected):
     assert formulas == [], formulas
 
 
-def check(lagomare, project, folder):
-    outputs = {option: folder / f"out.{option}" for option in ("json", "geojson", "gpkg", "xlsx", "csv")}
-    command = [lagomare, "import", "--quiet", "--no-check", project]
-    subprocess.run(command + [f"--{option}={path}" for option, path in outputs.items()], check=True)
-    subprocess.run(command + ["--csv", folder / "excel", "--csv-format", "excel-br"], check=True)
-    document = json.loads(outputs["json"].read_text(encoding="utf-8"))
-    expected = tables_of(document)
-    check_csv(outputs["csv"], expected, ",", ".", "utf-8")
+def run(lagomare, project, *options):
+    subprocess.run([lagomare, "import", "--quiet", "--no-check", project, *options], check=True)
+
+
+def check_small(lagomare, project, folder, document, expected):
+    run(lagomare, project, "--csv", folder / "csv", "--geojson", folder / "geojson", "--gpkg", folder / "out.gpkg")
+    run(lagomare, project, "--csv", folder / "excel", "--csv-format", "excel-br")
+    check_csv(folder / "csv", expected, ",", ".", "utf-8")
     assert (folder / "excel" / "links.csv").read_bytes().startswith(b"\xef\xbb\xbfid;")
     check_csv(folder / "excel", expected, ";", ",", "utf-8-sig")
-    check_geojson(outputs["geojson"], document, expected)
-    check_geopackage(outputs["gpkg"], expected)
-    check_workbook(outputs["xlsx"], document, expected)
+    check_geojson(folder / "geojson", document, expected)
+    check_geopackage(folder / "out.gpkg", expected)
+
+
+def check(lagomare, project, folder):
+    run(lagomare, project, "--json", folder / "json", "--xlsx", folder / "out.xlsx")
+    document = json.loads((folder / "json").read_text(encoding="utf-8"))
+    expected = tables_of(document)
+    check_workbook(folder / "out.xlsx", document, expected)
+    if len(document["nodes"]) < 1000:
+        check_small(lagomare, project, folder, document, expected)
     print(project, "-", len(expected["series"]), "values of series")
 
 
 with tempfile.TemporaryDirectory() as temporary:
     lagomare, *projects = sys.argv[1:]
     for number, project in enumerate(projects):
-        changes = ["", ODD, MANY] if project.endswith("2013.sql") else [""]
-        for variant, change in enumerate(changes):
+        for variant, change in enumerate(["", ODD, MANY] if project.endswith("2013.sql") else [""]):
             folder = pathlib.Path(temporary, f"{number}-{variant}")
             folder.mkdir()
+            database = project
             if project.endswith(".sql"):
-                database = sqlite3.connect(folder / "project.db")
-                database.executescript(pathlib.Path(project).read_text(encoding="utf-8") + change)
-                database.close()
-                check(lagomare, folder / "project.db", folder)
-            else:
-                check(lagomare, project, folder)
+                database = folder / "project.db"
+                connection = sqlite3.connect(database)
+                connection.executescript(pathlib.Path(project).read_text(encoding="utf-8") + change)
+                connection.close()
+            check(lagomare, database, folder)

@@ -43,7 +43,7 @@ SqliteFile::SqliteFile(const std::filesystem::path& file) {
 
 void SqliteFile::require(bool isDone) const {
   if (!isDone)
-    throw Failure(std::string("cannot write the database: ") + sqlite3_errmsg(database_.get()));
+    throw Failure(std::string("cannot write the GeoPackage: ") + sqlite3_errmsg(database_.get()));
 }
 
 void SqliteFile::execute(const std::string& sql) {

@@ -2,6 +2,7 @@
 
 #include "tools/system/Failure.h"
 
+#include <cerrno>
 #include <xlsxwriter.h>
 
 namespace LagomareTools {
@@ -54,10 +55,12 @@ Sheet& Workbook::addSheet(const std::string& name) {
 void Workbook::save() {
   for (Sheet& sheet : sheets_)
     sheet.finish();
+  errno = 0;
   const lxw_error error = workbook_close(workbook_);
   workbook_ = nullptr;
   if (error != LXW_NO_ERROR)
-    throw Failure(std::string("cannot write the workbook: ") + lxw_strerror(error));
+    throw Failure("cannot write the workbook: " +
+                  (error == LXW_ERROR_ZIP_FILE_OPERATION && errno != 0 ? systemText(errno) : lxw_strerror(error)));
 }
 
 } // namespace LagomareTools
