@@ -3,6 +3,9 @@
 #include "tools/export/NumberText.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <variant>
 
 namespace LagomareTools {
 

@@ -2,8 +2,11 @@
 
 #include "tools/export/SqliteFile.h"
 
+#include <cstdint>
 #include <cstring>
 #include <fmt/format.h>
+#include <string>
+#include <type_traits>
 
 namespace LagomareTools {
 

@@ -7,18 +7,24 @@
 #include <cerrno>
 #include <cstdio>
 #include <stdexcept>
+#include <string_view>
+#include <variant>
 #include <xlsxwriter.h>
 
 namespace LagomareTools {
 
 namespace {
 
-constexpr const char* endOfRow = "</row>";
-constexpr long endOfRowBytes = 6;
+constexpr std::string_view endOfRow = "</row>";
 
 void require(lxw_error error) {
   if (error != LXW_NO_ERROR)
     throw Failure(std::string("cannot write the workbook: ") + lxw_strerror(error));
+}
+
+void requireWritten(bool isWritten) {
+  if (!isWritten)
+    throw Failure("cannot write the workbook's temporary file: " + systemText(errno));
 }
 
 /// Spreadsheet programs disagree about the days before: the first of them took 1900 for a leap year.
@@ -58,7 +64,7 @@ private:
     if (sheet.column_ == 0)
       throw std::logic_error("Sheet: a row begins with an empty cell or a real number");
   }
-  lxw_worksheet* place() const {
+  [[nodiscard]] lxw_worksheet* place() const {
     if (!sheet.numbers_.empty())
       throw std::logic_error("Sheet: a cell that is no number follows a real number");
     return sheet.sheet_;
@@ -90,8 +96,8 @@ void Sheet::endRow() {
   if (!numbers_.empty()) {
     // Has the library write the row's other cells to the sheet's temporary file, then adds to that row.
     lxw_worksheet_write_single_row(sheet_);
-    std::fseek(sheet_->file, -endOfRowBytes, SEEK_CUR);
-    std::fputs(numbers_.append(endOfRow).c_str(), sheet_->file);
+    requireWritten(std::fseek(sheet_->file, -static_cast<long>(endOfRow.size()), SEEK_CUR) == 0 &&
+                   std::fputs(numbers_.append(endOfRow).c_str(), sheet_->file) >= 0);
     numbers_.clear();
   }
   ++row_;
@@ -107,9 +113,6 @@ void Sheet::setWidth(std::size_t firstColumn, std::size_t lastColumn, double cha
                                characters, nullptr));
 }
 
-void Sheet::finish() {
-  if (std::fflush(sheet_->file) != 0 || std::ferror(sheet_->file) != 0)
-    throw Failure("cannot write the workbook's temporary file: " + systemText(errno));
-}
+void Sheet::finish() { requireWritten(std::fflush(sheet_->file) == 0 && std::ferror(sheet_->file) == 0); }
 
 } // namespace LagomareTools

@@ -4,6 +4,7 @@
 #include "tools/system/Failure.h"
 
 #include <sqlite3.h>
+#include <variant>
 
 namespace LagomareTools {
 

@@ -3,6 +3,7 @@
 #include "tools/system/Text.h"
 
 #include <cmath>
+#include <optional>
 
 namespace LagomareTools {
 

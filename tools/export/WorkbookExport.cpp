@@ -5,6 +5,11 @@
 
 #include <algorithm>
 #include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
 
 namespace LagomareTools {
 
