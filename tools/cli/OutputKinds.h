@@ -10,7 +10,7 @@ namespace LagomareTools {
 /// One file of an output, and what fills it.
 struct OutputPart {
   const char* fileName; ///< in the folder that the option names; empty: the option names the file itself
-  /// Fills file.writer(), or the file at file.path(). Throws Failure. Null: not there yet.
+  /// Fills file.writer(), or the file at file.path(). Throws Failure.
   void (*write)(OutputFile& file, const ExportInput& input);
 };
 
@@ -22,9 +22,6 @@ struct OutputKind {
   bool takesStandardOutput; ///< the value "-" means standard output
   bool tellsFailure;        ///< is also written for a refused or an invalid project, without a scenario
   std::vector<OutputPart> parts;
-
-  /// An option that cannot be served yet is not shown.
-  [[nodiscard]] bool isReady() const { return parts.front().write != nullptr; }
 };
 
 /// All of them, in the order of the help. To add an output, add an entry.

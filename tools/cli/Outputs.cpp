@@ -43,12 +43,6 @@ void requireDifferentFiles(const ImportOptions& options, const ProjectFiles& rea
         add(request.kind->option, nameOf(request, part));
 }
 
-void requireReady(const std::vector<OutputRequest>& requests) {
-  for (const OutputRequest& request : requests)
-    if (!request.kind->isReady())
-      throw UsageError(std::string(request.kind->option) + " is not there yet");
-}
-
 } // namespace
 
 OutputFolder::OutputFolder(const std::string& name) {
@@ -70,7 +64,6 @@ OutputFolder::~OutputFolder() {
 
 Outputs::Outputs(const ImportOptions& options, const ProjectFiles& files)
     : takesStandardOutput_(std::any_of(options.outputs.begin(), options.outputs.end(), isStandardOutput)) {
-  requireReady(options.outputs);
   requireDifferentFiles(options, files);
   for (const OutputRequest& request : options.outputs)
     open(request);
