@@ -13,7 +13,6 @@ const std::string LagomareProjectManager::fileResultQuery = "query-result.txt";
 const std::string LagomareProjectManager::elementBdIdField1 = "NumPto";
 const std::string LagomareProjectManager::elementBdIdField2 = "NumPonto";
 LagomareProjectManager* LagomareProjectManager::lagomareProjectManager = nullptr;
-std::size_t LagomareProjectManager::numOfQueries = 0;
 
 LagomareProjectManager* LagomareProjectManager::getInstance(const std::string& databaseFilename) {
   if (lagomareProjectManager == nullptr)
@@ -31,8 +30,6 @@ void LagomareProjectManager::cleanInstance() {
   delete lagomareProjectManager;
   lagomareProjectManager = nullptr;
 }
-
-std::size_t LagomareProjectManager::getNumOfQueries() { return numOfQueries; }
 
 LagomareProjectManager::LagomareProjectManager(std::string databaseFile) : databaseFilename(std::move(databaseFile)) {}
 
@@ -63,7 +60,6 @@ Lagomare::ValueResult LagomareProjectManager::queryValues(const std::string& sql
 }
 
 std::unique_ptr<std::istream> LagomareProjectManager::ask(const std::string& sql, bool flag) const {
-  ++numOfQueries;
   if (source == nullptr)
     return runScript(sql, flag);
   auto answer = source->ask(sql, flag);

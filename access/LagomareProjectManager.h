@@ -5,7 +5,6 @@
 #include "access/ValueResult.h"
 #include "lagomare_export.h"
 
-#include <cstddef>
 #include <istream>
 #include <memory>
 #include <string>
@@ -30,9 +29,6 @@ public:
   [[nodiscard]] static LagomareProjectManager* getInstance();
   /// Destroys the channel, if any, and with it the two files.
   static void cleanInstance();
-
-  /// How many queries this process has sent so far, for whoever wants to know whether each was answered.
-  [[nodiscard]] static std::size_t getNumOfQueries();
 
   LagomareProjectManager(const LagomareProjectManager&) = delete;
   LagomareProjectManager& operator=(const LagomareProjectManager&) = delete;
@@ -65,8 +61,6 @@ private:
   /// Runs one query and opens its answer.
   [[nodiscard]] std::unique_ptr<std::istream> ask(const std::string& sql, bool flag) const;
   [[nodiscard]] std::unique_ptr<std::istream> runScript(const std::string& sql, bool flag) const;
-
-  static std::size_t numOfQueries;
 
   std::string databaseFilename;
   std::string apiExecutable;
