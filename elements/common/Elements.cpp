@@ -12,6 +12,7 @@ void requireKind(const ElementMap& elements, ElementType type, const std::string
 
 std::vector<unsigned> idsIn(const std::map<unsigned, std::vector<Row>>& rows) {
   std::vector<unsigned> ids;
+  ids.reserve(rows.size());
   for (const auto& entry : rows)
     ids.push_back(entry.first);
   return ids;

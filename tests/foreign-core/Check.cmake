@@ -1,6 +1,7 @@
 # Checks that a host with a core of its own gets no header of the stand-alone core, whatever kind of target its core is, and
 # that what its program prints of both examples is what the program OWN prints, which stands on the stand-alone core. Builds
 # in BINARY; QUERY is the query executable; GENERATOR and COMPILER are those of the build.
+cmake_minimum_required(VERSION 3.22)
 set(here "${CMAKE_CURRENT_LIST_DIR}")
 
 function(run)

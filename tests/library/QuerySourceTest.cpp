@@ -93,10 +93,14 @@ TEST_F(QuerySourceTest, PassesItsExceptionsOnAndKeepsNothingOfHalfAnAnswer) {
   EXPECT_THAT([] { static_cast<void>(LagomareProjectManager::getInstance()->queryValues("cut", false)); },
               Throws<LineLost>(Field(&LineLost::code, 7)));
   EXPECT_THAT([] { ask("refused"); }, Throws<LineLost>(Field(&LineLost::code, 8)));
-  for (const char* sql : {"null", "unopened"})
-    EXPECT_THAT([sql] { ask(sql); }, ThrowsMessage<std::runtime_error>(HasSubstr("no answer that can be read: ")));
   EXPECT_EQ(ask("whole"), (QueryResult{{3, {{"3", "4"}}}}));
   EXPECT_EQ(source->asked.back(), "whole|1");
+}
+
+TEST_F(QuerySourceTest, GivesNoEmptyTableForAStreamThatCannotBeRead) {
+  for (const char* sql : {"null", "unopened"})
+    EXPECT_THAT([sql] { ask(sql); },
+                ThrowsMessage<std::runtime_error>(EndsWith("no answer that can be read: " + std::string(sql))));
 }
 
 TEST_F(QuerySourceTest, LetsErrorsTellTheRowOfEveryKindOfTable) {

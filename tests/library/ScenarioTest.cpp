@@ -13,6 +13,16 @@ using namespace testing;
 
 namespace {
 
+/// What a copy of a demand has too.
+std::string shown(const Demand& demand) {
+  std::string text = demand.getElementType()->name + ' ' + std::to_string(demand.bdId) + ' ' + demand.getName() +
+                     PrintToString(std::make_pair(demand.getX(), demand.getY())) + PrintToString(demand.hostValues);
+  for (unsigned window = 0; window < demand.getWindows().size(); ++window)
+    for (const auto& serie : demand.getVectorOfSeries(window))
+      text += ' ' + serie->getSerieType().name + ' ' + std::to_string(serie->getValue(Date(2001, 12, 1)));
+  return text;
+}
+
 /// Nodes 1 and 2, joined by the links 1 and 2 in both directions.
 class ScenarioTest : public Test {
 protected:
@@ -69,29 +79,22 @@ TEST_F(ScenarioTest, PutsALinkOfAnotherKindIntoTheSamePlace) {
 }
 
 TEST_F(ScenarioTest, CopiesADemandWithItsSeriesButWithoutItsLinks) {
-  const auto original = std::dynamic_pointer_cast<DrainDemand>(network.node(ElementType::DrainDemand, 5));
+  const auto drain = std::dynamic_pointer_cast<DrainDemand>(network.node(ElementType::DrainDemand, 5));
   network.link(3, 1, 5);
-  original->setName("Foz");
-  original->setX(-43.5);
-  original->setY(-18.25);
-  original->hostValues = {1.0, 2.0};
-  original->hostDrainState = 7;
-  original->addWindow(std::make_shared<Container<SerieType>>());
-  original->getVectorOfSeries(0).at(1)->fill(3.0, scenario->getInterval());
-  original->getWindows()[1]->set(SerieType::WaterDemand, original->getVectorOfSeries(0).at(0));
-  const auto copy = std::dynamic_pointer_cast<DrainDemand>(original->copy());
-  original->getVectorOfSeries(0).at(1)->fill(4.0);
-  ASSERT_NE(copy, nullptr);
-  EXPECT_EQ(copy->getElementType()->id, 6);
-  EXPECT_EQ(copy->bdId, 5U);
-  EXPECT_EQ(copy->getName(), "Foz");
-  EXPECT_EQ(std::make_pair(copy->getX(), copy->getY()), std::make_pair(-43.5, -18.25));
-  EXPECT_THAT(copy->hostValues, ElementsAre(1.0, 2.0));
+  drain->setName("Foz");
+  drain->setX(-43.5);
+  drain->setY(-18.25);
+  drain->hostValues = {1.0, 2.0};
+  drain->hostDrainState = 7;
+  drain->addWindow(std::make_shared<Container<SerieType>>());
+  drain->getWindows()[1]->set(SerieType::WaterDemand, drain->getVectorOfSeries(0).at(1));
+  drain->getVectorOfSeries(0).at(1)->fill(3.0, scenario->getInterval());
+  const std::string before = shown(*drain);
+  const auto copy = std::dynamic_pointer_cast<DrainDemand>(drain->copy());
+  drain->getVectorOfSeries(0).at(1)->fill(4.0);
+  EXPECT_EQ(shown(*copy), before) << "its series are its own";
   EXPECT_EQ(copy->hostDrainState, 7);
   EXPECT_THAT(copy->getUpstreamLinks(), IsEmpty());
-  EXPECT_THAT(copy->getVectorOfSeries(0), SizeIs(2));
-  EXPECT_EQ(copy->getVectorOfSeries(0).at(1)->getValue(Date(2001, 12, 1)), 3.0) << "a series of its own";
-  EXPECT_THAT(copy->getVectorOfSeries(1), SizeIs(1));
 }
 
 TEST(ElementFactoryTest, MakesNoElementOfAGenericKind) {
