@@ -126,7 +126,7 @@ TEST(ReportTest, FaultsAreGroupedAndLeadToTheirElement) {
   const std::string all = html(faults);
   EXPECT_LT(all.find("<b>60 warnings</b>"), all.find("<b>1 note</b>"));
   EXPECT_LT(all.find("<b>Not a number</b> <span>60 warnings"), all.find("<b>Odd name</b>"));
-  EXPECT_THAT(all, HasSubstr("LgmVazNat, rows 1 to 2, column Valor<td>99<td>&quot;&lt;&quot;"));
+  EXPECT_THAT(all, HasSubstr("LgmVazNat, row 1 and 1 more, column Valor<td>99<td>&quot;&lt;&quot;"));
   EXPECT_THAT(all, HasSubstr("<p>10 more"));
   EXPECT_THAT(all, HasSubstr("<a href=\"#node-21\">Açude &lt;b&gt; (21)</a>"));
   EXPECT_THAT(html(std::vector<Fault>()), HasSubstr("no faults"));

@@ -46,8 +46,7 @@ std::string titleOf(std::string code) {
 std::string placeOf(const Fault& fault) {
   std::string place = fault.table;
   if (fault.row)
-    place += fault.rows == 1 ? fmt::format(", row {}", *fault.row)
-                             : fmt::format(", rows {} to {}", *fault.row, *fault.row + fault.rows - 1);
+    place += fmt::format(", row {}", *fault.row) + (fault.rows > 1 ? fmt::format(" and {} more", fault.rows - 1) : "");
   return place + (fault.column.empty() ? "" : ", column " + fault.column);
 }
 
@@ -95,9 +94,10 @@ void writeGroup(FileWriter& out, const Faults& faults, const Elements& elements)
   out.write(fmt::format("<details class=\"fault {}\"><summary><b>{}</b> <span>{}</span></summary>\n", words.name,
                         htmlText(titleOf(first.code)), counted(faults.size(), words.name, words.plural)));
   if (isOneRemedy && !first.remedy.empty())
-    out.write("<p>" + htmlText(first.remedy) + "</p>\n");
-  out.write("<table><thead><tr><th scope=\"col\">Place<th scope=\"col\">Element<th scope=\"col\">What it is</thead>\n"
-            "<tbody>");
+    out.write("<p>To mend: " + htmlText(first.remedy) + "</p>\n");
+  out.write(
+      "<table><thead><tr><th scope=\"col\">Place<th scope=\"col\">Element<th scope=\"col\">What is wrong</thead>\n"
+      "<tbody>");
   for (std::size_t index = 0; index < std::min(faults.size(), listed); ++index)
     writeFault(out, *faults[index], elements, !isOneRemedy);
   out.write("</tbody></table>\n");
@@ -138,10 +138,11 @@ void writeReportFaults(FileWriter& out, const std::optional<std::vector<Fault>>&
       counts += fmt::format("<li class=\"{}\"><b>{}</b> <span>{}</span></li>\n", words.name,
                             counted(static_cast<std::size_t>(count), words.name, words.plural), words.meaning);
   }
-  out.write("<ul class=\"verdict\">\n" + counts + "</ul>\n");
+  out.write("<ul class=\"verdict\">\n" + counts + "</ul>\n<div class=\"faults\">\n");
   const Elements elements(network);
   for (const Faults& group : groupsOf(*faults))
     writeGroup(out, group, elements);
+  out.write("</div>\n");
 }
 
 } // namespace LagomareTools

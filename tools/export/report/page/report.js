@@ -27,8 +27,17 @@ function choose(key) {
   });
   addEventListener("hashchange", () => choose(location.hash.slice(1)));
   const paperWidth = 640; // pixels
-  addEventListener("beforeprint", () => plots.resize(paperWidth));
-  addEventListener("afterprint", () => plots.resize());
+  const faults = [...document.querySelectorAll(".fault.error, .fault.warning")];
+  let opened = [];
+  addEventListener("beforeprint", () => {
+    plots.resize(paperWidth);
+    opened = faults.filter((fault) => !fault.open);
+    opened.forEach((fault) => (fault.open = true));
+  });
+  addEventListener("afterprint", () => {
+    plots.resize();
+    opened.forEach((fault) => (fault.open = false));
+  });
   const key = location.hash.slice(1);
   const first = data.elements.find((element) => element.series.length > 0) ?? data.elements[0];
   if (elements.has(key))
