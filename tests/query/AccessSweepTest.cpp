@@ -18,11 +18,11 @@ public:
       if (number != 0 && !isRead())
         mark(number, 0, pageSize);
       else if (page_.is(AccessPage::Kind::data) && page_.bytes().u32(4) == longTexts)
-        for (std::size_t slot = 0; slot < rowCount(page_, file_.format()); ++slot)
+        for (std::size_t slot = 0; slot < slotCount(page_, file_.format()); ++slot)
           markCell(number, rowBytes(page_, file_.format(), slot));
     }
     for (const AccessObject& object : readCatalog(file_))
-      if (!object.linked && !object.system)
+      if (!object.isLinked && !object.isSystem)
         addTable(readTable(file_, object.name, object.definitionPage));
   }
   [[nodiscard]] const std::vector<std::string>& tables() const { return tables_; }
@@ -46,7 +46,7 @@ private:
     tables_.push_back(table.name);
     for (const std::uint32_t number : readDataPages(file_, table)) {
       file_.read(number, page_);
-      for (std::size_t slot = 0; slot < rowCount(page_, file_.format()); ++slot)
+      for (std::size_t slot = 0; slot < slotCount(page_, file_.format()); ++slot)
         if (slotOf(page_, file_.format(), slot) == AccessSlot::row)
           addCells(table, number, rowBytes(page_, file_.format(), slot));
     }

@@ -139,5 +139,14 @@ TEST_F(SqliteDatabaseTest, AnyNameCanBeOpened) {
   }
 }
 
+/// SQLite takes paths of 512 bytes at most.
+TEST_F(SqliteDatabaseTest, AnOverlongPathIsAnError) {
+  runSql("plain.db", "CREATE TABLE t(a)");
+  const std::string folder = fs::absolute(".").string() + "/" + std::string(250, 'f') + "/" + std::string(250, 'g');
+  fs::create_directories(folder);
+  fs::rename("plain.db", folder + "/p.db");
+  EXPECT_NE(refusal(folder + "/p.db", "SELECT a FROM t").find("that its path is not overlong"), std::string::npos);
+}
+
 } // namespace
 } // namespace LagomareQuery

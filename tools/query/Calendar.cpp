@@ -21,10 +21,11 @@ bool isDay(const Day& day) {
 }
 
 Day dayFromAccess(std::int64_t days) {
-  // Years are counted from March, so that a leap day ends its year; era: 400 years, all of the same length.
-  constexpr std::int64_t daysFromYear0March1 = 693899; // of 1899-12-30
+  // The computation counts years from March, so that a leap day is the last day of its year. An era is 400 years; all
+  // eras are of the same length.
+  constexpr std::int64_t daysFromYear0March1 = 693899; // the number of 1899-12-30
   constexpr std::int64_t eraDays = 146097;
-  const std::int64_t shifted = days + daysFromYear0March1 + eraDays; // one era more, so never negative
+  const std::int64_t shifted = days + daysFromYear0March1 + eraDays; // one era added, so it is never negative
   const std::int64_t inEra = shifted % eraDays;
   const std::int64_t yearOfEra = (inEra - inEra / 1460 + inEra / 36524 - inEra / 146096) / 365;
   const std::int64_t dayOfYear = inEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);

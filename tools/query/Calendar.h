@@ -11,11 +11,11 @@ struct Day {
   int day = 0;
 };
 
-/// Whether the calendar has it, years 0 to 9999.
+/// Whether the day exists, in the years 0 to 9999.
 [[nodiscard]] bool isDay(const Day& day);
 
-/// The day so many days after 1899-12-30 (before it, if negative), on which Access counts dates from; `days` must lie
-/// within the years 0 to 9999.
+/// Converts a date of Access, which counts days from 1899-12-30. `days` may be negative, but must lie in the years 0 to
+/// 9999.
 [[nodiscard]] Day dayFromAccess(std::int64_t days);
 
 } // namespace LagomareQuery

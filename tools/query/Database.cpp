@@ -20,7 +20,7 @@ constexpr auto sqliteSignature = "SQLite format 3\0"sv;
 constexpr auto jetSignature = "\0\1\0\0Standard Jet DB"sv;
 constexpr auto aceSignature = "\0\1\0\0Standard ACE DB"sv;
 
-/// At most as many bytes as the longest signature has.
+/// Reads as many bytes as the longest signature has, fewer if the file is shorter.
 std::string firstBytes(const fs::path& file) {
   errno = 0;
   std::ifstream stream(file, std::ios::binary);
@@ -87,7 +87,7 @@ void prepareForQueries(sqlite3* connection) {
   setOption(connection, SQLITE_DBCONFIG_DQS_DDL, 0);
   setOption(connection, SQLITE_DBCONFIG_DEFENSIVE, 1);
   setOption(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
-  // SQLite would build an index for a join, and read rows in its order.
+  // Otherwise SQLite may build an index for a join and read the rows in the order of that index.
   execute(connection, "PRAGMA automatic_index = OFF");
   registerDateFormat(connection);
 }

@@ -8,28 +8,31 @@
 
 namespace LagomareQuery {
 
-/// A database opened for reading, whatever its kind, seen through SQLite.
+/// A database of either kind, opened for reading. Queries go to the SQLite connection.
 struct Database {
-  std::shared_ptr<const void> foundation; ///< what the connection stands on, if anything; goes after it
+  std::shared_ptr<const void> foundation; ///< what the connection reads from, if not from `file` itself; outlives it
   Connection connection;
   std::filesystem::path file;
-  /// Of `file`: from before its first byte was read or, where SQLite locks it, from then on; none where a copy is read.
+  /// The stamp of `file`, taken before its first byte was read or, if SQLite locks the file, after it was locked. Empty
+  /// if a copy is read.
   std::optional<LagomareTools::FileStamp> stamp;
-  /// Tables must be checked before they are read; an Access file is checked while it is read.
+  /// True for a SQLite file until it is checked. An Access file is checked while it is read.
   bool needsCheck = false;
 };
 
-/// Opens a SQLite or an Access file, told apart by their first bytes. Throws QueryError. A SQLite file is seen in one
-/// state, that of one read transaction, for as long as the connection lives.
+/// Opens a SQLite or an Access file; their first bytes tell which. A SQLite file is seen in one state, by one read
+/// transaction, until the connection is closed. Throws QueryError.
 [[nodiscard]] Database openDatabase(const std::string& path);
 
-/// Checks the whole database, so that its tables need not be checked any more. Throws QueryError where it is damaged.
+/// Checks the whole database, so that single tables need not be checked before each query. Throws QueryError if it is
+/// damaged.
 void requireSound(Database& database);
 
-/// Throws DatabaseChanged where the file was changed or replaced since it was opened.
+/// Throws DatabaseChanged if the file was changed or replaced since it was opened.
 void requireUnchanged(const Database& database);
 
-/// What SQL may rely on, whatever the kind: FORMAT, double quotes that never mean a text, no index but the database's.
+/// Sets up a connection, for both kinds of database alike: adds FORMAT, takes double quotes for names only, never for
+/// text, and forbids indexes that SQLite would build for a single query.
 void prepareForQueries(sqlite3* connection);
 
 } // namespace LagomareQuery

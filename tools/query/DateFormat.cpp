@@ -10,7 +10,7 @@ namespace LagomareQuery {
 
 namespace {
 
-/// The text has the shape: 0 stands for any digit, the rest for itself.
+/// Whether the text looks like `shape`, in which 0 stands for any digit and other characters for themselves.
 bool hasShape(std::string_view text, std::string_view shape) {
   return std::equal(text.begin(), text.end(), shape.begin(), shape.end(), [](char character, char expected) {
     return expected == '0' ? std::isdigit(static_cast<unsigned char>(character)) != 0 : character == expected;
@@ -24,7 +24,7 @@ int number(std::string_view digits) {
   return value;
 }
 
-/// Hours and minutes, then seconds and their fraction where they are given.
+/// Whether the text is a time: hours and minutes, seconds and their fraction optional.
 bool isTime(std::string_view text) {
   const std::string_view fraction = text.substr(std::min<std::size_t>(text.size(), 8));
   const bool shaped = hasShape(text, "00:00") ||
@@ -52,7 +52,8 @@ std::string padded(int value, std::size_t digits) {
   return std::string(digits - std::min(digits, text.size()), '0') + text;
 }
 
-/// The run of one letter that the pattern begins with, in lower case; empty where it begins with something else.
+/// Returns the repeated letter that the pattern begins with, such as "yyyy", in lower case; empty if it begins with
+/// something else.
 std::string leadingLetters(std::string_view pattern) {
   std::string letters;
   for (const char character : pattern) {

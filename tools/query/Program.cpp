@@ -47,14 +47,14 @@ Call parseCall(const std::vector<std::string>& words) {
   return {words[0], words[1]};
 }
 
-/// Writing the answer over the project would be the end of it.
+/// The answer must not overwrite the project.
 void requireOtherFile(const std::vector<std::string>& words) {
   std::error_code missing;
   if (!words.empty() && std::filesystem::equivalent(std::filesystem::u8path(words[0]), answerName, missing))
     throw QueryError(std::string("the database is the file ") + answerName + ", which the answer would overwrite");
 }
 
-/// The text to print for a call that asks for no answer; none for any other call.
+/// Returns the text to print if the call asks for help or the version, otherwise null.
 const char* helpFor(const std::vector<std::string>& words) {
   if (words.size() != 1)
     return nullptr;

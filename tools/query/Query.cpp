@@ -26,7 +26,7 @@ void writeRows(const Database& database, const std::string& sql, AnswerSink& sin
   try {
     runQuery(database, sql, sink);
   } catch (const QueryError&) {
-    requireUnchanged(database); // what looks like damage may be a file that another program is writing
+    requireUnchanged(database); // if another program writes to the file, say so rather than speak of damage
     throw;
   }
   requireUnchanged(database);

@@ -6,7 +6,7 @@
 namespace LagomareQuery {
 
 /// Runs the one statement in `sql`, which must select, and writes its rows to `sink` while it reads them. Throws
-/// QueryError, DatabaseChanged among them, also behind rows that are already written, and whatever the sink throws.
+/// QueryError (or DatabaseChanged), possibly after some rows have been written, and what the sink throws.
 void writeRows(const Database& database, const std::string& sql, AnswerSink& sink);
 
 } // namespace LagomareQuery

@@ -15,7 +15,7 @@ std::string sqlOf(const std::string& line) {
   return line.substr(2);
 }
 
-/// False where the database was changed.
+/// Returns false if the database was changed.
 bool answerLine(const Database& database, const std::string& line, AnswerStream& answers) {
   try {
     writeRows(database, sqlOf(line), answers);

@@ -6,9 +6,9 @@
 
 namespace LagomareQuery {
 
-/// Answers each line of `queries`, FLAG SQL, from the database at `path`, which is opened once. A query that fails does
-/// not end the session; the end of `queries` does. Returns false where the database was changed, which ends it too.
-/// Throws QueryError where the database cannot be opened, and what AnswerStream throws.
+/// Opens a database once and answers each line of `queries`, FLAG SQL, from it. A query that fails does not end the
+/// session; the end of `queries` does. Returns false if the session ended because the database was changed. Throws
+/// QueryError if the database cannot be opened or is damaged, and what AnswerStream throws.
 [[nodiscard]] bool runSession(const std::string& path, std::istream& queries, AnswerStream& answers);
 
 } // namespace LagomareQuery

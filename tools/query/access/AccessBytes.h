@@ -6,11 +6,12 @@
 
 namespace LagomareQuery {
 
-/// Throws QueryError: the Access file is damaged; `where` says what does not fit, as "table X, page 12".
+/// Throws a QueryError that says that the Access file is damaged. `where` says what is wrong, such as "page 12 is
+/// missing".
 [[noreturn]] void throwDamaged(const std::string& where);
 
-/// Part of a page, not owned. Numbers are little-endian, offsets count bytes from 0; reading past the end means that
-/// the file is damaged and throws QueryError.
+/// A part of a page; does not own the bytes. Numbers are little-endian, offsets are bytes from 0. Reading past the end
+/// throws QueryError, as the file must be damaged.
 class AccessBytes {
 public:
   AccessBytes() = default;

@@ -2,7 +2,10 @@
 
 #include "tools/query/access/AccessScan.h"
 #include <algorithm>
+#include <optional>
+#include <set>
 #include <sqlite3.h>
+#include <utility>
 
 namespace LagomareQuery {
 
@@ -22,41 +25,60 @@ const AccessColumn& column(const AccessTable& table, const char* name, AccessTyp
   return *found;
 }
 
-void requireDifferentNames(const std::vector<AccessObject>& objects) {
-  std::vector<std::string> names;
+/// Reads the rows of the catalogue.
+class CatalogRow {
+public:
+  explicit CatalogRow(const AccessTable& catalog)
+      : id_(column(catalog, "Id", AccessType::integer32)), type_(column(catalog, "Type", AccessType::integer16)),
+        name_(column(catalog, "Name", AccessType::text)), flags_(column(catalog, "Flags", AccessType::integer32)) {}
+
+  /// Returns nothing if the row is about something else than a table.
+  [[nodiscard]] std::optional<AccessObject> read(const AccessFile& file, const AccessRecord& row) const {
+    if (row.isNull(id_) || row.isNull(type_) || row.isNull(name_))
+      return std::nullopt;
+    const std::uint16_t kind = row.cell(type_).u16(0);
+    if (kind != tableObject && kind != linkedByDriverObject && kind != linkedObject)
+      return std::nullopt;
+    AccessObject object;
+    object.isLinked = kind != tableObject;
+    object.isSystem = !row.isNull(flags_) && (row.cell(flags_).u32(0) & systemFlags) != 0;
+    object.definitionPage = row.cell(id_).u32(0) & pageMask;
+    file.appendText(row.cell(name_), object.name);
+    return object;
+  }
+
+private:
+  const AccessColumn& id_;
+  const AccessColumn& type_;
+  const AccessColumn& name_;
+  const AccessColumn& flags_;
+};
+
+struct LessIgnoringCase {
+  bool operator()(const std::string& left, const std::string& right) const {
+    return sqlite3_stricmp(left.c_str(), right.c_str()) < 0;
+  }
+};
+
+void requireDifferent(const std::vector<AccessObject>& objects) {
+  std::set<std::string, LessIgnoringCase> names;
+  std::set<std::uint32_t> pages;
   for (const AccessObject& object : objects)
-    names.push_back(object.name);
-  const auto compare = [](const auto& left, const auto& right) { return sqlite3_stricmp(left.c_str(), right.c_str()); };
-  std::sort(names.begin(), names.end(), [&](const auto& left, const auto& right) { return compare(left, right) < 0; });
-  const auto twin = std::adjacent_find(names.begin(), names.end(),
-                                       [&](const auto& left, const auto& right) { return compare(left, right) == 0; });
-  if (twin != names.end())
-    throwDamaged("two tables of the name " + *twin);
+    if (!names.insert(object.name).second || (!object.isLinked && !pages.insert(object.definitionPage).second))
+      throwDamaged("table " + object.name + " is listed twice, or another one with its definition");
 }
 
 } // namespace
 
 std::vector<AccessObject> readCatalog(const AccessFile& file) {
   const AccessTable catalog = readTable(file, "MSysObjects", catalogPage);
-  const AccessColumn& id = column(catalog, "Id", AccessType::integer32);
-  const AccessColumn& type = column(catalog, "Type", AccessType::integer16);
-  const AccessColumn& name = column(catalog, "Name", AccessType::text);
-  const AccessColumn& flags = column(catalog, "Flags", AccessType::integer32);
+  const CatalogRow row(catalog);
   std::vector<AccessObject> objects;
   const std::vector<std::uint32_t> pages = readDataPages(file, catalog);
-  for (AccessScan scan(file, catalog, pages); scan.next();) {
-    const AccessRecord& record = scan.record();
-    if (record.isNull(id) || record.isNull(type) || record.isNull(name))
-      continue;
-    const std::uint16_t kind = record.cell(type).u16(0);
-    if (kind != tableObject && kind != linkedByDriverObject && kind != linkedObject)
-      continue;
-    const bool system = !record.isNull(flags) && (record.cell(flags).u32(0) & systemFlags) != 0;
-    AccessObject object{{}, kind != tableObject, system, record.cell(id).u32(0) & pageMask};
-    file.appendText(record.cell(name), object.name);
-    objects.push_back(std::move(object));
-  }
-  requireDifferentNames(objects);
+  for (AccessScan scan(file, catalog, pages); scan.next();)
+    if (std::optional<AccessObject> object = row.read(file, scan.record()))
+      objects.push_back(std::move(*object));
+  requireDifferent(objects);
   return objects;
 }
 

@@ -5,15 +5,15 @@
 
 namespace LagomareQuery {
 
-/// What the database's catalogue lists under a name that SQL may ask for.
+/// A table in the database's catalogue.
 struct AccessObject {
   std::string name;
-  bool linked; ///< a table that stands in another database
-  bool system; ///< one of Access's own tables
-  std::uint32_t definitionPage;
+  bool isLinked = false; ///< the table itself is in another database
+  bool isSystem = false; ///< one of Access's own tables
+  std::uint32_t definitionPage = 0;
 };
 
-/// The tables in the catalogue, no two of one name. Throws QueryError.
+/// Returns the tables in the catalogue. No two have the same name or the same definition. Throws QueryError.
 [[nodiscard]] std::vector<AccessObject> readCatalog(const AccessFile& file);
 
 } // namespace LagomareQuery

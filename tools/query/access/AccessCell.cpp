@@ -27,7 +27,7 @@ void giveStoredText(sqlite3_context* context, const AccessFile& file, AccessByte
 }
 
 void giveBytes(sqlite3_context* context, AccessBytes bytes) {
-  static const std::uint8_t none = 0; // SQLite takes a null pointer for NULL
+  static const std::uint8_t none = 0; // a null pointer would mean NULL
   sqlite3_result_blob64(context, bytes.size() == 0 ? &none : bytes.data(), bytes.size(), SQLITE_TRANSIENT);
 }
 
@@ -54,7 +54,7 @@ void giveCell(sqlite3_context* context, const AccessFile& file, const AccessColu
                                 ("column " + column.name + " is calculated by Access and cannot be read").c_str(), -1);
   switch (column.type) {
   case AccessType::truth:
-    break; // stands in the null mask, see above
+    break; // is stored in the null mask, see above
   case AccessType::byte:
     return sqlite3_result_int(context, cell.u8(0));
   case AccessType::integer16:

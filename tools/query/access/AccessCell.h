@@ -5,12 +5,12 @@
 
 namespace LagomareQuery {
 
-/// Hands a cell to SQLite: numbers as they are, a single as the double of its shortest text, currency and decimal as
-/// the double nearest to their decimal text, dates as ISO text, truth values as 1 and 0. This is the only place that
-/// turns a cell into a value. Throws QueryError.
+/// Converts a cell to a value of SQLite. A single becomes the double with the same shortest text, currency and decimal
+/// the double nearest to their decimal text, a date ISO text, a truth value 1 or 0. All conversions are here. Throws
+/// QueryError.
 void giveCell(sqlite3_context* context, const AccessFile& file, const AccessColumn& column, const AccessRecord& record);
 
-/// The SQL type under which SQLite compares a column of this type with texts and numbers.
+/// The SQL type of a column, which decides how SQLite compares it with texts and numbers.
 [[nodiscard]] const char* sqlType(AccessType type);
 
 } // namespace LagomareQuery

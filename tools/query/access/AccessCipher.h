@@ -5,8 +5,8 @@
 
 namespace LagomareQuery {
 
-/// Encodes or decodes bytes in place with RC4, the stream cipher of Access files; it is its own inverse. The key's
-/// bytes count from the lowest one.
+/// Encodes or decodes bytes in place with RC4, the cipher of Access files; both are the same. The lowest byte of the
+/// key comes first.
 void applyCipher(std::uint32_t key, std::uint8_t* bytes, std::size_t size);
 
 } // namespace LagomareQuery

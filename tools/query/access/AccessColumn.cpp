@@ -23,7 +23,7 @@ AccessColumn readColumn(AccessBytes entry, const AccessFormat& format) {
   return column;
 }
 
-/// Marks places of which each is for one column; false where one of them is taken.
+/// Marks places as taken; each is for one column. Returns false if one of them was taken before.
 bool take(std::vector<bool>& taken, std::size_t begin, std::size_t size) {
   taken.resize(std::max(taken.size(), begin + size));
   for (std::size_t place = begin; place < begin + size; ++place) {
@@ -34,7 +34,7 @@ bool take(std::vector<bool>& taken, std::size_t begin, std::size_t size) {
   return true;
 }
 
-/// Where columns share a number or bytes of their rows, one would be read as the other without a word.
+/// If two columns had the same number or the same bytes of a row, one would be read as the other.
 void requireSeparate(const std::vector<AccessColumn>& columns, std::size_t endOfNumbers, std::size_t endOfCells,
                      const std::string& table) {
   std::vector<bool> numbers;

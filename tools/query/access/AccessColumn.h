@@ -27,20 +27,21 @@ enum class AccessType : std::uint8_t {
 struct AccessColumn {
   std::string name;
   AccessType type;
-  bool calculated;           ///< computed by Access from other columns and stored in a form of its own
-  bool fixed;                ///< stands at a fixed offset, else in the row's variable part
-  std::uint16_t number;      ///< from 0, deleted columns counted: its bit in a row's null mask
-  std::uint16_t fixedOffset; ///< bytes behind the row's column count
+  bool calculated;           ///< computed by Access from other columns and stored in another form
+  bool fixed;                ///< stored at a fixed offset, otherwise in the row's variable part
+  std::uint16_t number;      ///< from 0, deleted columns included: its bit in a row's null mask
+  std::uint16_t fixedOffset; ///< bytes from the end of the row's column count
   std::uint16_t variableIndex;
-  std::uint16_t size; ///< bytes; 0 for a truth value and for what varies
-  std::uint8_t scale; ///< decimal digits behind the point, of a decimal
+  std::uint16_t size; ///< bytes; 0 for a truth value and for variable size
+  std::uint8_t scale; ///< of a decimal: digits after the point
 };
 
-/// Bytes that a cell of a fixed column takes, whatever its definition says; that size where the type has none.
+/// The size of a fixed column's cells in bytes: that of its type or, if cells of the type vary in size, that of its
+/// definition.
 [[nodiscard]] std::size_t fixedSize(const AccessColumn& column);
 
-/// The columns of a table, from the bytes of its definition, in the order of `select *`. Throws QueryError where they
-/// cannot be those of one table.
+/// Reads the columns of a table from its definition, in the order of `select *`. Throws QueryError if they contradict
+/// each other.
 [[nodiscard]] std::vector<AccessColumn> readColumns(const AccessFile& file, const std::string& table,
                                                     AccessBytes definition);
 

@@ -4,7 +4,7 @@
 
 namespace LagomareQuery {
 
-/// Opens an Access file as a database in memory whose tables read the file's. Throws QueryError.
+/// Opens an Access file: a SQLite database in memory, with virtual tables that read the file. Throws QueryError.
 [[nodiscard]] Database openAccessDatabase(const std::filesystem::path& file);
 
 } // namespace LagomareQuery

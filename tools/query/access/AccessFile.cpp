@@ -15,7 +15,7 @@ void throwDamaged(const std::string& where) {
 
 namespace {
 
-// The file's first page. From maskedOffset on it is masked by the cipher, with a key that all files share.
+// Offsets in the first page. From maskedOffset on the page is encoded with a key that is the same for all files.
 constexpr std::size_t versionOffset = 0x14;
 constexpr std::size_t maskedOffset = 0x18;
 constexpr std::size_t codePageOffset = 0x3C;

@@ -8,7 +8,7 @@
 
 namespace LagomareQuery {
 
-/// One page of an Access file; its owner keeps it while what points into it is in use.
+/// One page of an Access file. AccessBytes that point into it are valid as long as the page is kept unchanged.
 class AccessPage {
 public:
   enum class Kind : std::uint8_t { data = 1, tableDefinition = 2, usageMap = 5 };
@@ -22,28 +22,28 @@ private:
   std::size_t size_ = 0;
 };
 
-/// An Access file as pages, decoded where the file is encoded. Not for use by two threads.
+/// Reads the pages of an Access file, and decodes them if the file is encoded. Not for use by two threads.
 class AccessFile {
 public:
-  /// Throws QueryError where the file is no Access database that can be read.
+  /// Throws QueryError if the file is not an Access database, or is one that cannot be read here.
   explicit AccessFile(const std::filesystem::path& file);
 
   [[nodiscard]] const AccessFormat& format() const { return *format_; }
 
-  /// Whole pages in the file; every walk along pages is bounded by it.
+  /// The number of complete pages in the file. Loops over pages must not exceed it.
   [[nodiscard]] std::uint32_t pageCount() const { return pageCount_; }
 
-  /// Throws QueryError where the file has no such page.
+  /// Throws QueryError if the file has no such page.
   void read(std::uint32_t pageNumber, AccessPage& page) const;
 
-  /// Appends a text as it stands in a cell or a definition, turned into UTF-8.
+  /// Appends a text from a cell or a definition, converted to UTF-8.
   void appendText(AccessBytes stored, std::string& text) const;
 
 private:
   mutable std::ifstream stream_;
   const AccessFormat* format_ = nullptr;
   std::uint32_t pageCount_ = 0;
-  std::uint32_t key_ = 0; // of an encoded file: each page's key is this one exclusive-or its number; 0: not encoded
+  std::uint32_t key_ = 0; // 0 if the file is not encoded; the key of a page is key_ ^ its number
 };
 
 } // namespace LagomareQuery

@@ -4,22 +4,22 @@
 
 namespace LagomareQuery {
 
-/// Where things stand in the pages of one generation of the format; offsets and sizes in bytes.
+/// The layout of pages in one generation of the format. All offsets and sizes are in bytes.
 struct AccessFormat {
   std::size_t pageSize;
-  std::size_t pageRowCount; // of data pages; the rows' offsets follow it
+  std::size_t pageRowCount; // in data pages; the table of slots follows it
 
-  // Table definitions: from the beginning of their first page.
+  // Table definitions: offsets from the beginning of the first page.
   std::size_t rowCount;
-  std::size_t endOfColumnNumbers; // deleted columns counted
+  std::size_t endOfColumnNumbers; // the number of columns ever made, deleted ones included
   std::size_t variableColumnCount;
   std::size_t columnCount;
-  std::size_t indexCount; // of those that take an entry before the columns
+  std::size_t indexCount; // number of the indexes that have an entry before the columns
   std::size_t usageMap;
   std::size_t indexEntries;
   std::size_t indexEntrySize;
 
-  // A column in a table definition: from the beginning of its entry.
+  // Columns in a table definition: offsets from the beginning of a column's entry.
   std::size_t columnEntrySize;
   std::size_t columnNumber;
   std::size_t variableIndex;
@@ -28,8 +28,8 @@ struct AccessFormat {
   std::size_t fixedOffset;
   std::size_t columnSize;
 
-  std::size_t countSize; // of counts in rows and of a column name's length: 1 or 2
-  bool utf16;            // text is UTF-16, else in code page 1252
+  std::size_t countSize; // 1 or 2: size of counts in rows and of the length of a column's name
+  bool utf16;            // text is in UTF-16, otherwise in code page 1252
 };
 
 /// Access 97.

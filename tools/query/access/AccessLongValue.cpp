@@ -6,7 +6,7 @@ namespace LagomareQuery {
 
 namespace {
 
-constexpr std::size_t headerSize = 12; // length and where, pointer, four bytes of no known use
+constexpr std::size_t headerSize = 12; // length and flags, pointer, four bytes whose meaning is unknown
 constexpr std::uint32_t inCellFlag = 0x80000000;
 constexpr std::uint32_t inOneRowFlag = 0x40000000;
 constexpr std::uint32_t lengthMask = 0x3FFFFFFF;
@@ -18,7 +18,7 @@ void append(std::vector<std::uint8_t>& bytes, AccessBytes part) {
 }
 
 AccessBytes readLongValueRow(const AccessFile& file, AccessRowId row, AccessPage& page) {
-  constexpr std::uint32_t ownerMark = 'L' | 'V' << 8 | 'A' << 16 | 'L' << 24; // in place of a table
+  constexpr std::uint32_t ownerMark = 'L' | 'V' << 8 | 'A' << 16 | 'L' << 24; // instead of a table's page
   const AccessBytes bytes = readRow(file, row, page);
   if (page.bytes().u32(4) != ownerMark)
     throwDamaged("a long text that stands on a page of a table, page " + std::to_string(row.page));

@@ -5,7 +5,7 @@
 
 namespace LagomareQuery {
 
-/// The bytes of a memo or an OLE object, gathered from wherever the cell says they stand. Throws QueryError.
+/// Returns the bytes of a memo or an OLE object, which the cell holds or points to. Throws QueryError.
 [[nodiscard]] std::vector<std::uint8_t> readLongValue(const AccessFile& file, AccessBytes cell);
 
 } // namespace LagomareQuery

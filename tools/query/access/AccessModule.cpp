@@ -32,7 +32,7 @@ struct Cursor : sqlite3_vtab_cursor {
   sqlite3_int64 row = 0;
 };
 
-/// Calls `body`, for no exception may pass through SQLite: what it throws becomes the text at `error`.
+/// Calls `body`. No exception may pass through SQLite, so its text is stored at `error`.
 template <typename Body>
 int guarded(char** error, Body body) {
   try {
@@ -57,7 +57,7 @@ std::string declaration(const AccessTable& table) {
 int connect(sqlite3* connection, void* source, int, const char* const*, sqlite3_vtab** table, char** error) {
   return guarded(error, [&] {
     const auto& [file, object] = *static_cast<const Source*>(source);
-    if (object.linked)
+    if (object.isLinked)
       throw QueryError("table " + object.name + " is only linked here; it stands in another database");
     auto opened = std::make_unique<Table>(file, readTable(file, object.name, object.definitionPage));
     if (sqlite3_declare_vtab(connection, declaration(opened->table).c_str()) != SQLITE_OK)
@@ -71,7 +71,7 @@ int disconnect(sqlite3_vtab* table) {
   return SQLITE_OK;
 }
 
-/// There is one way to read a table: from its first row to its last.
+/// A table can only be read from its first row to its last.
 int planScan(sqlite3_vtab* table, sqlite3_index_info* plan) {
   const std::uint32_t rows = static_cast<Table*>(table)->table.rowCount;
   plan->estimatedRows = rows;
@@ -123,7 +123,7 @@ int giveRowid(sqlite3_vtab_cursor* cursor, sqlite3_int64* rowid) {
   return SQLITE_OK;
 }
 
-/// Without xCreate a module's table is there under the module's own name.
+/// A module without xCreate is a table with the module's name.
 sqlite3_module makeModule() {
   sqlite3_module module{};
   module.xConnect = connect;
@@ -147,20 +147,20 @@ void listTables(sqlite3* connection, const std::vector<AccessObject>& objects) {
       prepare(connection, "INSERT INTO sqlite_master(type, name, tbl_name, rootpage, sql) "
                           "VALUES('table', ?1, ?1, 0, printf('CREATE VIRTUAL TABLE \"%w\" USING \"%w\"', ?1, ?1))");
   for (const AccessObject& object : objects) {
-    if (object.linked || object.system)
+    if (object.isLinked || object.isSystem)
       continue;
     sqlite3_bind_text(insert.get(), 1, object.name.data(), static_cast<int>(object.name.size()), SQLITE_STATIC);
     static_cast<void>(step(insert.get()));
     sqlite3_reset(insert.get());
   }
-  execute(connection, "PRAGMA writable_schema = RESET"); // reads the schema anew
+  execute(connection, "PRAGMA writable_schema = RESET"); // reads the schema again
 }
 
 void registerAccessTable(sqlite3* connection, const AccessFile& file, const AccessObject& object) {
   static const sqlite3_module module = makeModule();
   auto source = std::make_unique<Source>(Source{file, object});
   const auto destroy = [](void* owned) { delete static_cast<Source*>(owned); };
-  // SQLite owns the source from here on, even where it fails.
+  // SQLite takes ownership of the source, even if it fails.
   if (sqlite3_create_module_v2(connection, object.name.c_str(), &module, source.release(), destroy) != SQLITE_OK)
     throwSqliteError(connection);
 }

@@ -17,11 +17,12 @@ double doubleOfText(const char* begin, const char* end) {
   return value;
 }
 
-/// Decimal digits of a number of four groups of 32 bits, the most significant first; leading zeros may remain.
+/// Returns the decimal digits of a number of four groups of 32 bits, the most significant first. There can be leading
+/// zeros.
 std::string decimalDigits(std::array<std::uint32_t, 4> groups) {
   constexpr std::uint64_t base = 1'000'000'000;
   std::string digits;
-  for (int block = 0; block < 5; ++block) { // 45 digits, where 128 bits need 39
+  for (int block = 0; block < 5; ++block) { // 45 digits; 128 bits need 39
     std::uint64_t remainder = 0;
     for (std::uint32_t& group : groups) {
       const std::uint64_t dividend = remainder << 32 | group;

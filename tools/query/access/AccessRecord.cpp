@@ -8,7 +8,7 @@ std::size_t count(AccessBytes bytes, std::size_t offset, const AccessFormat& for
   return format.countSize == 1 ? bytes.u8(offset) : bytes.u16(offset);
 }
 
-/// `size` less `parts`; the file is damaged where the parts are more.
+/// Returns `size` - `parts`. Throws if the parts are larger.
 std::size_t before(std::size_t size, std::size_t parts) {
   if (parts > size)
     throwDamaged("a row that is shorter than its parts");
@@ -27,7 +27,7 @@ AccessRecord::AccessRecord(AccessBytes row, const AccessTable& table, const Acce
   bool fits = true;
   if (table.hasVariableColumns) {
     const std::size_t offsets = findVariableCells();
-    // Access leaves room behind the cells where a row has become shorter.
+    // Access can leave unused bytes after the last cell when a row has become shorter.
     fits = variableCount_ <= shape.mostVariableCells && variableOffset(variableCount_) <= offsets;
     fixedEnd = variableOffset(0);
   }
@@ -39,13 +39,13 @@ std::size_t AccessRecord::findVariableCells() {
   const std::size_t countOffset = before(dataEnd_, format_->countSize);
   variableCount_ = count(row_, countOffset, *format_);
   offsetsEnd_ = countOffset;
-  if (!format_->utf16) { // Jet3: the jump table stands between the offsets and their count
+  if (!format_->utf16) { // Access 97: the jump table is between the offsets and their count
     jumpCount_ = (row_.size() - 1) / 256;
     jumpsEnd_ = countOffset;
     offsetsEnd_ = before(countOffset, jumpCount_);
   }
   const std::size_t offsets = before(offsetsEnd_, (variableCount_ + 1) * format_->countSize);
-  // The last jump may be a dummy, for the offsets themselves.
+  // The last jump can be for the offsets themselves and then has no meaning.
   if (jumpCount_ > 0 && offsets / 256 < jumpCount_)
     --jumpCount_;
   return offsets;

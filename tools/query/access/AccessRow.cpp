@@ -8,14 +8,14 @@ constexpr std::uint16_t deletedFlag = 0x8000;
 constexpr std::uint16_t movedFlag = 0x4000;
 constexpr std::uint16_t offsetMask = 0x1FFF;
 
-/// The slot's offset in the page, and its flags.
+/// Returns the offset of a row in its page, with flags.
 std::uint16_t slotEntry(const AccessPage& page, const AccessFormat& format, std::size_t slot) {
   return page.bytes().u16(format.pageRowCount + 2 * (slot + 1));
 }
 
 } // namespace
 
-std::size_t rowCount(const AccessPage& page, const AccessFormat& format) {
+std::size_t slotCount(const AccessPage& page, const AccessFormat& format) {
   return page.bytes().u16(format.pageRowCount);
 }
 
@@ -29,9 +29,9 @@ AccessSlot slotOf(const AccessPage& page, const AccessFormat& format, std::size_
 AccessBytes rowBytes(const AccessPage& page, const AccessFormat& format, std::size_t slot) {
   const AccessBytes bytes = page.bytes();
   const std::size_t begin = slotEntry(page, format, slot) & offsetMask;
-  // Rows fill the page from its end.
+  // Rows are stored from the end of the page to its beginning.
   const std::size_t end = slot == 0 ? bytes.size() : slotEntry(page, format, slot - 1) & offsetMask;
-  const std::size_t endOfSlots = format.pageRowCount + 2 * (rowCount(page, format) + 1);
+  const std::size_t endOfSlots = format.pageRowCount + 2 * (slotCount(page, format) + 1);
   if (begin > end || begin < endOfSlots)
     throwDamaged("a row that begins outside its place");
   return bytes.part(begin, end - begin);
@@ -39,7 +39,7 @@ AccessBytes rowBytes(const AccessPage& page, const AccessFormat& format, std::si
 
 AccessBytes readRow(const AccessFile& file, AccessRowId row, AccessPage& page) {
   file.read(row.page, page);
-  if (!page.is(AccessPage::Kind::data) || row.slot >= rowCount(page, file.format()))
+  if (!page.is(AccessPage::Kind::data) || row.slot >= slotCount(page, file.format()))
     throwDamaged("a pointer to a row that is not there, page " + std::to_string(row.page));
   return rowBytes(page, file.format(), row.slot);
 }

@@ -28,7 +28,7 @@ std::vector<AccessRowShape> rowShapes(const std::vector<AccessColumn>& columns, 
     AccessRowShape shape = shapes.back();
     if (column != columns.end() && column->number == number) {
       add(shape, *column++, format);
-    } else { // a deleted column, of which nothing is known
+    } else { // a deleted column; its type is unknown
       shape.mostFixedEnd = std::numeric_limits<std::size_t>::max();
       shape.mostVariableCells = variableColumnCount;
     }

@@ -4,17 +4,17 @@
 
 namespace LagomareQuery {
 
-/// What a row must look like that was written when its table had so many columns.
+/// What a row must look like, depending on how many columns the table had when the row was written.
 struct AccessRowShape {
-  /// Bytes from the row's beginning to the end of its fixed columns. There may be more than the least of them where
-  /// columns were deleted, and for truth values at the end, to which some programs give a byte.
+  /// Bytes from the beginning of the row to the end of its fixed columns. It varies if columns were deleted, and if the
+  /// last ones are truth values, for which some programs leave a byte.
   std::size_t leastFixedEnd;
   std::size_t mostFixedEnd;
   std::size_t mostVariableCells;
 };
 
-/// The shapes by number of columns, from 0, which no row has; deleted columns are counted. `columns` in ascending order
-/// of their numbers.
+/// Returns the shapes of rows with 0, 1, … columns, deleted ones included. No row has 0 columns. `columns` must be
+/// sorted by number.
 [[nodiscard]] std::vector<AccessRowShape> rowShapes(const std::vector<AccessColumn>& columns,
                                                     std::size_t endOfColumnNumbers, std::size_t variableColumnCount,
                                                     const AccessFormat& format);

@@ -12,7 +12,7 @@ bool AccessScan::next() {
         return false;
       file_.read(pages_[nextPage_++], page_);
       nextSlot_ = 0;
-      slotCount_ = rowCount(page_, format);
+      slotCount_ = slotCount(page_, format);
       continue;
     }
     const std::size_t slot = nextSlot_++;

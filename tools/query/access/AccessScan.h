@@ -4,20 +4,20 @@
 
 namespace LagomareQuery {
 
-/// Walks over a table's rows in stored order: by page, then by slot. Has a page of its own, so that several may walk.
+/// Reads the rows of a table in stored order: by page, then by slot. There can be several scans of one table.
 class AccessScan {
 public:
-  /// `pages` are those of the table, as readDataPages() returns them. All three must outlive the scan.
+  /// `pages` must be those that readDataPages() returns. All three must outlive the scan.
   AccessScan(const AccessFile& file, const AccessTable& table, const std::vector<std::uint32_t>& pages)
       : file_(file), table_(table), pages_(pages) {}
 
-  /// Goes to the next row, at first to the first; false behind the last one. Throws QueryError.
+  /// Goes to the next row, the first time to the first one; returns false after the last one. Throws QueryError.
   [[nodiscard]] bool next();
 
-  /// Before the first row again.
+  /// Goes back to the beginning.
   void restart() { nextPage_ = nextSlot_ = slotCount_ = 0; }
 
-  /// The row gone to; valid until next().
+  /// The current row. Valid until next() is called.
   [[nodiscard]] const AccessRecord& record() const { return record_; }
 
 private:
@@ -27,8 +27,8 @@ private:
   const AccessTable& table_;
   const std::vector<std::uint32_t>& pages_;
   AccessPage page_;
-  AccessPage movedPage_;     // of a row that moved to another page
-  std::size_t nextPage_ = 0; // in the list
+  AccessPage movedPage_;     // holds the current row if it was moved
+  std::size_t nextPage_ = 0; // index in pages_
   std::size_t nextSlot_ = 0;
   std::size_t slotCount_ = 0;
   AccessRecord record_;

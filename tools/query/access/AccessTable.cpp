@@ -12,7 +12,7 @@ constexpr std::size_t nextPageOffset = 4; // of table definitions
 constexpr std::size_t ownerOffset = 4;    // of data pages: the table's definition page
 constexpr std::size_t mostDefinitionPages = 256;
 
-/// The definition's bytes from all of its pages, as if they stood on one.
+/// Returns the bytes of a definition that may extend over several pages.
 std::vector<std::uint8_t> definitionBytes(const AccessFile& file, std::uint32_t pageNumber) {
   std::vector<std::uint8_t> bytes;
   AccessPage page;
@@ -29,10 +29,10 @@ std::vector<std::uint8_t> definitionBytes(const AccessFile& file, std::uint32_t 
   return bytes;
 }
 
-/// Counts the rows on a page, and lists where those went that moved to another one.
+/// Counts the rows of a page. Appends the pointers to rows that were moved to other pages.
 std::size_t countRows(const AccessPage& page, const AccessFormat& format, std::vector<std::uint32_t>& moved) {
   std::size_t rows = 0;
-  for (std::size_t slot = 0, count = rowCount(page, format); slot < count; ++slot) {
+  for (std::size_t slot = 0, count = slotCount(page, format); slot < count; ++slot) {
     const AccessSlot kind = slotOf(page, format, slot);
     if (kind != AccessSlot::deleted)
       ++rows;
@@ -66,8 +66,8 @@ AccessTable readTable(const AccessFile& file, std::string name, std::uint32_t de
   return table;
 }
 
-/// The usage map marks a few pages that are no longer the table's; whether those that are left are all of them, the
-/// number of rows tells.
+/// A usage map can mark pages that no longer belong to the table. The number of rows shows whether the remaining pages
+/// are complete.
 std::vector<std::uint32_t> readDataPages(const AccessFile& file, const AccessTable& table) {
   std::vector<std::uint32_t> own;
   std::size_t rows = 0;

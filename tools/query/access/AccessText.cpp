@@ -28,7 +28,7 @@ void appendUtf8(std::string& text, std::uint32_t character) {
   }
 }
 
-/// Puts UTF-16 units together into characters.
+/// Joins UTF-16 units into characters.
 class Utf16Appender {
 public:
   explicit Utf16Appender(std::string& text) : text_(text) {}
@@ -56,7 +56,7 @@ private:
   }
 
   std::string& text_;
-  std::uint32_t high_ = 0; // first half of a surrogate pair, waiting for the second
+  std::uint32_t high_ = 0; // the first half of a surrogate pair, until the second one comes
 };
 
 void appendCompressed(AccessBytes stored, Utf16Appender& text) {
@@ -88,7 +88,7 @@ void appendUtf16(AccessBytes stored, std::string& text) {
 }
 
 void appendWindows1252(AccessBytes stored, std::string& text) {
-  // What 0x80 to 0x9F stand for; the other bytes are the first 256 characters of Unicode.
+  // The characters for 0x80 to 0x9F. The other bytes equal their Unicode numbers.
   static constexpr std::array<std::uint16_t, 32> special = {
       0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
       0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

@@ -4,12 +4,13 @@
 
 namespace LagomareQuery {
 
-/// Appends text stored by Access 2000 and later, turned into UTF-8: UTF-16, little-endian; or, marked by FF FE, runs of
-/// one byte per character and runs of UTF-16 that take turns at each zero byte. Half a surrogate pair becomes U+FFFD.
+/// Appends a text of Access 2000 and later, converted to UTF-8. It is stored in UTF-16, little-endian, or compressed:
+/// the bytes FF FE, then one byte per character, then after a zero byte UTF-16, and so on, changing at each zero byte.
+/// Half a surrogate pair becomes U+FFFD.
 void appendUtf16(AccessBytes stored, std::string& text);
 
-/// Appends text stored by Access 97, turned into UTF-8: one byte per character, in Windows code page 1252. The five
-/// bytes that it leaves undefined become U+FFFD.
+/// Appends a text of Access 97, converted from Windows code page 1252 to UTF-8. The five bytes that have no meaning in
+/// that code page become U+FFFD.
 void appendWindows1252(AccessBytes stored, std::string& text);
 
 } // namespace LagomareQuery

@@ -29,7 +29,7 @@ private:
   std::vector<std::uint32_t> pages_;
 };
 
-/// The map lists pages of bits, each for the pages that follow those of the one before it.
+/// The map lists pages of bits. Each such page stands for the next pages of the file.
 void addPagesOfBits(const AccessFile& file, AccessBytes list, PageCollector& pages) {
   constexpr std::size_t header = 4;
   const std::uint64_t pagesPerMap = (file.format().pageSize - header) * 8;

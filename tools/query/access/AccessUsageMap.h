@@ -5,8 +5,8 @@
 
 namespace LagomareQuery {
 
-/// The pages that a usage map marks, ascending; `map` is the row that holds the map. Throws QueryError where it marks a
-/// page that the file does not have.
+/// Returns the pages that a usage map marks, in ascending order. `map` is the row that holds the map. Throws QueryError
+/// if the file has not all of these pages.
 [[nodiscard]] std::vector<std::uint32_t> pagesOf(const AccessFile& file, AccessRowId map);
 
 } // namespace LagomareQuery

@@ -6,7 +6,7 @@
 
 namespace LagomareQuery {
 
-/// Gathers an answer's bytes into blocks for its sink. What is not flushed is lost.
+/// Collects the bytes of an answer and hands them to a sink in blocks. Bytes that are not flushed are lost.
 class AnswerBuffer {
 public:
   /// `sink` must outlive the buffer.
@@ -28,7 +28,7 @@ public:
   }
 
 private:
-  /// Half of what a pipe usually holds: one half is written while the other is read.
+  /// Half the size of a pipe: while the reader takes one half, the other can be written.
   static constexpr std::size_t blockSize = std::size_t{32} * 1024;
 
   AnswerSink& sink_;

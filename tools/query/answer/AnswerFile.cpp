@@ -28,7 +28,8 @@ AnswerFile::AnswerFile(fs::path path) : path_(std::move(path)) {
     replace();
 }
 
-/// False also for what is there but is no file with this name alone: a link's other name may be somebody's database.
+/// Returns false also if there is something else than a file with only this name: through a link it could be somebody's
+/// database.
 bool AnswerFile::openInPlace() {
   std::error_code error;
   const fs::file_status status = fs::symlink_status(path_, error);
@@ -43,8 +44,8 @@ void AnswerFile::begin() {
   try {
     holdOnly(unfinishedLine);
   } catch (...) {
-    // Not even one byte on a full disk: an empty file would pass for an empty answer. In an older answer the first byte
-    // is overwritten.
+    // If the disk has no room for a single byte, the file is removed: an empty file would be an empty answer. If there
+    // is an older answer, its first byte is overwritten.
     std::rewind(file_.get());
     if (std::fwrite(unfinishedLine.data(), 1, 1, file_.get()) != 1) {
       std::error_code ignored;
@@ -81,11 +82,11 @@ void AnswerFile::write(std::string_view bytes) {
 
 void AnswerFile::commit() {
   const std::size_t head = std::min<std::uint64_t>(size_, head_.size());
-  // Of a shorter answer, what stays until its bytes cover it is the error line's beginning, which is no row either.
+  // If the answer is shorter than the error line, the beginning of that line remains for a moment. It is no row either.
   if (size_ < head_.size())
     resize(size_);
   overwriteBegin(std::string_view(head_.data(), head));
-  if (std::fclose(file_.release()) != 0) // what the system noticed only at the end
+  if (std::fclose(file_.release()) != 0) // some errors show only now
     throwError();
 }
 
@@ -96,13 +97,13 @@ void AnswerFile::fail(std::string_view reason) noexcept {
     holdOnly("error: " + inOneLine(reason) + " .\n");
   } catch (...) {
     try {
-      holdOnly(unfinishedLine); // needs no more room on the disk than the file has
+      holdOnly(unfinishedLine); // fits into the room that the file already has
     } catch (...) {
     }
   }
 }
 
-/// The line goes over the beginning before the rest is cut off: at no moment is the first line a row.
+/// Overwrites the beginning before it cuts off the rest, so that the first line is a row at no moment.
 void AnswerFile::holdOnly(std::string_view line) {
   overwriteBegin(line);
   resize(line.size());
@@ -124,7 +125,7 @@ void AnswerFile::resize(std::uint64_t size) {
     throwError();
 }
 
-/// By the number in errno.
+/// Takes the error from errno.
 void AnswerFile::throwError() const {
   throw QueryError("'" + path_.u8string() + "' cannot be written in the working directory: " +
                    LagomareTools::systemText(errno) + "; make room for it, or start in a folder that you may write to");

@@ -5,7 +5,7 @@
 
 namespace LagomareQuery {
 
-/// Where the bytes of an answer go: a file or a stream.
+/// Takes the bytes of an answer: a file or a stream.
 class AnswerSink {
 public:
   virtual ~AnswerSink() = default;
@@ -17,7 +17,7 @@ protected:
   AnswerSink& operator=(const AnswerSink&) = default;
 };
 
-/// The text with a blank for each line break and other control character, such as file names may hold.
+/// Returns the text with a blank for each line break and other control character. File names can contain them.
 [[nodiscard]] std::string inOneLine(std::string_view text);
 
 } // namespace LagomareQuery

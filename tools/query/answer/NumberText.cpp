@@ -10,9 +10,9 @@ namespace LagomareQuery {
 
 namespace {
 
-/// Whether the value has no more than four decimals and fifteen digits, and then 10,000 times the value. There is no
-/// shorter text that reads back to the same number then, for texts of up to fifteen digits mean as many different
-/// doubles; and finding it takes a fraction of what the shortest text of any double takes.
+/// Whether the value has at most four decimals and fifteen digits; computes 10,000 times the value. Then its decimal
+/// text is the shortest one, as different texts of up to fifteen digits are different doubles. This is much faster than
+/// to search the shortest text of any double.
 bool isInTenThousandths(double value, std::int64_t& tenThousandths) {
   constexpr double limit = 1e15;
   const double scaled = value * 1e4;
@@ -51,7 +51,7 @@ char* writeNumber(char* to, double value) {
   if (magnitude < integerLimit && std::trunc(value) == value)
     return writeNumber(to, static_cast<std::int64_t>(value));
   if (magnitude < std::numeric_limits<double>::min())
-    return writeNumber(to, std::int64_t{0}); // subnormal: the reader takes it for out of range
+    return writeNumber(to, std::int64_t{0}); // subnormal: an importer would refuse it as out of range
   return std::to_chars(to, to + numberRoom, value, std::chars_format::fixed).ptr;
 }
 

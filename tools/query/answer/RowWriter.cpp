@@ -12,13 +12,13 @@ namespace {
 
 constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
-constexpr std::string_view rowEnd = ".\n";     // the field that the reader discards
+constexpr std::string_view rowEnd = ".\n";     // the field that importers ignore
 constexpr std::ptrdiff_t usualNumberRoom = 32; // bytes
 constexpr std::size_t chunkBytes = AnswerBuffer::largestRoom / 4;
 
 char* append(char* to, std::string_view bytes) { return std::copy(bytes.begin(), bytes.end(), to); }
 
-/// Bytes that the text begins with and that are written as they are, each a character.
+/// How many bytes at the beginning of the text are written unchanged.
 std::size_t plainLength(std::string_view text) {
   const char* const end = text.data() + text.size();
   const char* const special =
@@ -34,24 +34,24 @@ bool mustBecomeNoBreakSpace(std::string_view character) {
   return character.size() == 2 && first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
 }
 
-/// The bytes of a text or, for any other `type`, of a binary value.
+/// Returns the bytes of a text or, for any other `type`, of a binary value.
 std::string_view bytesOf(sqlite3_value* value, int type) {
   const void* const data = type == SQLITE_TEXT ? sqlite3_value_text(value) : sqlite3_value_blob(value);
   const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
   if (data == nullptr && (type == SQLITE_TEXT || size != 0))
-    throw std::bad_alloc(); // only an empty binary value has no address otherwise
+    throw std::bad_alloc(); // otherwise only an empty binary value has no address
   return {static_cast<const char*>(data), size};
 }
 
 } // namespace
 
 void RowWriter::writeRow(sqlite3_stmt* row, int columns) {
-  // For usual numbers in all columns and an unusual one in one of them.
+  // Enough for usual numbers in all columns and one long number.
   const std::size_t roomForNumbers =
       static_cast<std::size_t>(columns * (usualNumberRoom + 1)) + numberRoom + rowEnd.size();
   char* to = buffer_.room(roomForNumbers);
   for (int column = 0; column < columns; ++column) {
-    sqlite3_value* value = sqlite3_column_value(row, column); // unprotected: read by this thread alone
+    sqlite3_value* value = sqlite3_column_value(row, column); // unprotected, but used by one thread only
     const int type = sqlite3_value_type(value);
     if (type == SQLITE_INTEGER) {
       to = writeNumber(to, std::int64_t{sqlite3_value_int64(value)});

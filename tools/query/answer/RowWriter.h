@@ -5,17 +5,17 @@
 
 namespace LagomareQuery {
 
-/// Writes rows as the reader takes them: each field followed by one blank, then a field that the reader discards.
-/// This is the only place that turns a value into a field.
+/// Writes rows as importers read them: each field is followed by one blank, and a last field, a dot, is ignored by the
+/// importer. All values are converted to fields here.
 class RowWriter {
 public:
   /// `sink` must outlive the writer.
   explicit RowWriter(AnswerSink& sink) : buffer_(sink) {}
 
-  /// Writes the current row of a statement that has just been stepped to it.
+  /// Writes the current row of a statement.
   void writeRow(sqlite3_stmt* row, int columns);
 
-  /// Hands all rows written so far to the sink; without it the last ones are lost.
+  /// Hands all rows to the sink. Must be called after the last row.
   void flush() { buffer_.flush(); }
 
 private:

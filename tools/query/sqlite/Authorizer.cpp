@@ -35,7 +35,7 @@ int Authorizer::decide(void* self, int action, const char* first, const char* se
 }
 
 std::string Authorizer::refusalOf(int action, const std::string& table, const std::string& function) {
-  // SQLite's own update, while it declares a table of an Access file; it lets nobody else make one.
+  // SQLite does this itself when it declares a table of an Access file. It refuses such a statement from anybody else.
   const bool declaresTable = action == SQLITE_UPDATE && table == "sqlite_master";
   if (action == SQLITE_SELECT || action == SQLITE_RECURSIVE || declaresTable)
     return {};
@@ -46,7 +46,7 @@ std::string Authorizer::refusalOf(int action, const std::string& table, const st
 
 std::string Authorizer::refusalOfReading(const std::string& table, const std::string& column, const std::string& schema,
                                          const std::string& view) const {
-  // A shadow is a view of its table's name: a column of a table that no such view reads bypasses the shadow.
+  // The table must be read by the view with its name.
   const bool shadowed = access_ == TableAccess::shadowsOnly && schema == "main" && table.rfind("sqlite_", 0) != 0;
   if (!shadowed || column.empty() || sameName(view, table))
     return {};

@@ -4,7 +4,7 @@
 
 namespace LagomareQuery {
 
-/// Lets a connection compile only what reads, for as long as this lives.
+/// While this object lives, the connection compiles only statements that read.
 class Authorizer {
 public:
   Authorizer(sqlite3* connection, TableAccess access);
@@ -15,7 +15,7 @@ public:
   /// Why a statement was refused; empty if none was.
   [[nodiscard]] const std::string& refusal() const { return refusal_; }
 
-  /// The tables of the main schema that are read, those that SQLite itself makes up among them.
+  /// The tables of the main schema that statements read, including SQLite's built-in ones.
   [[nodiscard]] const std::set<std::string>& tables() const { return tables_; }
 
   [[nodiscard]] bool readsRowidOfView() const { return readsRowidOfView_; }

@@ -4,12 +4,12 @@ namespace LagomareQuery {
 
 namespace {
 
-/// Interrupts SQLite's check after its first part, the one of the pages, for as long as this lives. The second part
-/// takes three times as long: it looks whether each value is of its column's type, which says nothing about damage.
+/// While this object lives, SQLite's check is interrupted after its first part, which checks the pages. The second part
+/// takes three times as long and compares each value with its column's type, which says nothing about damage.
 class FirstPartOnly {
 public:
   explicit FirstPartOnly(sqlite3* connection) : connection_(connection) {
-    constexpr int instructions = 10000; // the first part is one of some ten
+    constexpr int instructions = 10000; // the first part takes about ten, with a single one for all pages
     sqlite3_progress_handler(
         connection_, instructions, [](void*) { return 1; }, nullptr);
   }
@@ -21,7 +21,7 @@ private:
   sqlite3* connection_;
 };
 
-/// What the first part has found comes as the first row.
+/// A fault that the first part finds comes as the first row.
 void requireNoFault(sqlite3* connection, const std::string& pragma) {
   const Statement check = prepare(connection, pragma);
   const FirstPartOnly firstPartOnly(connection);

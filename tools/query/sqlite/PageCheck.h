@@ -5,11 +5,11 @@
 
 namespace LagomareQuery {
 
-/// Throws QueryError where the pages of the database do not fit together, such as where a page says that it holds fewer
-/// rows than it does: SQLite itself would read fewer without a word.
+/// Throws QueryError if the pages of the database are damaged, for example if a page claims to hold fewer rows than it
+/// does. Without this check SQLite reads fewer rows and reports no error.
 void requireSoundDatabase(sqlite3* connection);
 
-/// The same for the pages of some tables and their indexes alone. Other names than those of tables are ignored.
+/// Checks only the pages of some tables and their indexes. Names that are no tables are ignored.
 void requireSoundTables(sqlite3* connection, const std::set<std::string>& tables);
 
 } // namespace LagomareQuery

@@ -36,14 +36,19 @@ PrivateCopy::PrivateCopy(const fs::path& database) {
   }
 }
 
-/// False where a file was changed meanwhile: the copies would not fit together.
+void PrivateCopy::removeFiles() noexcept {
+  std::error_code ignored;
+  fs::remove_all(directory_->path(), ignored);
+}
+
+/// Returns false if a file was changed meanwhile, so that the copies do not belong together.
 bool PrivateCopy::copyFrom(const fs::path& database) {
   std::array<FileStamp, parts.size()> before;
   for (std::size_t i = 0; i < parts.size(); ++i)
     before[i] = FileStamp::of(part(database, parts[i]));
   for (const char* suffix : parts) {
     fs::remove(part(copy_, suffix));
-    std::error_code impossible; // a name that is too long: no such file then
+    std::error_code impossible; // if the name is too long, there is no such file
     if (fs::exists(part(database, suffix), impossible))
       fs::copy_file(part(database, suffix), part(copy_, suffix));
   }

@@ -6,18 +6,17 @@
 
 namespace LagomareQuery {
 
-/// A copy of a SQLite database with its -wal and -journal files in a directory of its own, under the system's directory
-/// for temporary files; removed when this goes.
+/// A copy of a SQLite database and its -wal and -journal files in a private directory. Removed with this object.
 class PrivateCopy {
 public:
-  /// `database` is the file's real path, links resolved: its companions stand beside it. Throws QueryError.
+  /// `database` must be a path without symbolic links: the -wal file is beside the file itself. Throws QueryError.
   explicit PrivateCopy(const std::filesystem::path& database);
 
   [[nodiscard]] const std::filesystem::path& database() const { return copy_; }
 
-  /// Removes the files now, as far as the system lets go of open ones, so that nothing stays behind if this process is
-  /// killed; what is open can be read on.
-  void removeFiles() noexcept { directory_.reset(); }
+  /// Removes the files now, so that nothing is left behind if this process is killed. Open files can still be read. On
+  /// a system that cannot remove open files, they are removed with this object.
+  void removeFiles() noexcept;
 
 private:
   [[nodiscard]] bool copyFrom(const std::filesystem::path& database);

@@ -8,7 +8,7 @@ namespace LagomareQuery {
 
 namespace {
 
-/// True where only blanks, comments and semicolons are left; they compile to no statement.
+/// Whether only blanks, comments and semicolons are left. They compile to no statement.
 bool isBlank(sqlite3* connection, const char* sql) {
   while (*sql != '\0') {
     sqlite3_stmt* statement = nullptr;

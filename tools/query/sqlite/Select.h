@@ -5,23 +5,23 @@
 
 namespace LagomareQuery {
 
-/// How a statement reaches the tables of the database.
+/// How a statement may read the tables of the database.
 enum class TableAccess {
   direct,
-  shadowsOnly, ///< only through the views that shadow them (StoredOrder.h)
+  shadowsOnly, ///< only through the views with the same names, see StoredOrder.h
 };
 
 struct Select {
   Statement statement;
-  std::set<std::string> tables;  ///< those of the main schema that it reads
-  bool readsRowidOfView = false; ///< of a temporary view, or a column of it with the very name trueRowid
+  std::set<std::string> tables;  ///< tables of the main schema that the statement reads
+  bool readsRowidOfView = false; ///< the rowid of a temporary view, or a column with exactly the name trueRowid
 };
 
-/// What SQLite calls a rowid by which no column of the table goes.
+/// The name by which SQLite reports that a rowid is read.
 inline constexpr std::string_view trueRowid = "ROWID";
 
-/// Compiles the one statement that `sql` must hold and that must select; blanks, comments and semicolons may stand
-/// around it. Whatever writes, attaches or changes settings is refused. Throws QueryError.
+/// Compiles `sql`, which must consist of one statement that selects; blanks, comments and semicolons around it are
+/// allowed. Refuses everything that writes, attaches or changes settings. Throws QueryError.
 [[nodiscard]] Select prepareSelect(sqlite3* connection, const std::string& sql, TableAccess access);
 
 } // namespace LagomareQuery

@@ -16,28 +16,28 @@ struct FinalizeStatement {
 using Connection = std::unique_ptr<sqlite3, CloseConnection>;
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-/// Opens by file name or, where `flags` has SQLITE_OPEN_URI, by URI. Throws QueryError.
+/// Opens a database by file name or, if `flags` has SQLITE_OPEN_URI, by URI. Throws QueryError.
 [[nodiscard]] Connection openConnection(const std::string& name, int flags);
 
-/// Compiles the first statement of `sql`; null where it holds only blanks and comments. Throws QueryError.
+/// Compiles the first statement of `sql`. Returns null if there are only blanks and comments. Throws QueryError.
 [[nodiscard]] Statement prepare(sqlite3* connection, std::string_view sql);
 
-/// Runs one statement whose rows are of no interest. Throws QueryError.
+/// Runs one statement and ignores its rows. Throws QueryError.
 void execute(sqlite3* connection, std::string_view sql);
 
-/// True on a row, false after the last one. Throws QueryError.
+/// Goes to the next row; returns false after the last one. Throws QueryError.
 [[nodiscard]] bool step(sqlite3_stmt* statement);
 
-/// Column of the current row as UTF-8; empty for NULL. Valid until the next step.
+/// Returns a column of the current row as UTF-8; empty for NULL. Valid until the next step.
 [[nodiscard]] std::string_view textColumn(sqlite3_stmt* statement, int column);
 
-/// The name as SQL writes it: in double quotes, those inside doubled.
+/// Returns the name as an SQL identifier in double quotes.
 [[nodiscard]] std::string quotedName(std::string_view name);
 
-/// Throws the connection's last error, in words for whoever has the database.
+/// Throws the connection's last error as a QueryError with advice for the user, or std::bad_alloc.
 [[noreturn]] void throwSqliteError(sqlite3* connection);
 
-/// Throws QueryError: the SQLite file is damaged; `how` says what is wrong with it.
+/// Throws a QueryError that says that the SQLite file is damaged, and how.
 [[noreturn]] void throwDamagedSqlite(const std::string& how);
 
 } // namespace LagomareQuery

@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 using LagomareTools::FileStamp;
 
-/// The file as a URI, every byte that could mean something in one escaped.
+/// Returns the file as a URI, with all special bytes escaped.
 std::string uriOf(const fs::path& file, const char* parameters) {
   static constexpr std::string_view digits = "0123456789ABCDEF";
   static constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789/._-~:";
@@ -29,13 +29,14 @@ std::string uriOf(const fs::path& file, const char* parameters) {
   return uri + "?" + parameters;
 }
 
-/// SQLite opens the file itself only when it reads it for the first time. The transaction stays open, and with it the
-/// lock, until the connection is closed.
+/// SQLite opens the file only when it first reads from it. The transaction, and with it the lock, lasts until the
+/// connection is closed.
 int readForTheFirstTime(sqlite3* connection) {
   return sqlite3_exec(connection, "BEGIN; SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
 }
 
-/// SQLite takes zeros for what a cut file lacks of its last page; that whole pages are missing it notices itself.
+/// If a file ends within a page, SQLite reads the rest of the page as zeros. It notices itself if whole pages are
+/// missing.
 void requireWholePages(sqlite3* connection, std::uintmax_t fileSize) {
   const Statement pageSize = prepare(connection, "PRAGMA page_size");
   if (step(pageSize.get()) && fileSize % static_cast<std::uintmax_t>(sqlite3_column_int64(pageSize.get(), 0)) != 0)
@@ -61,7 +62,7 @@ Database openCopy(const fs::path& file) {
   const std::uintmax_t sizeBefore = FileStamp::of(copy->database()).size;
   if (readForTheFirstTime(connection.get()) != SQLITE_OK)
     throwSqliteError(connection.get());
-  // Rolling back a hot journal takes away a page that was being added, but it also fills up a cut file.
+  // Rolling back a hot journal removes a page that was being added, but it also extends a file that was cut off.
   requireWholePages(connection.get(), std::min(sizeBefore, FileStamp::of(copy->database()).size));
   copy->removeFiles();
   return {copy, std::move(connection), file, std::nullopt, true};
@@ -69,7 +70,7 @@ Database openCopy(const fs::path& file) {
 
 bool holdsBytes(const fs::path& file, const char* suffix) { return FileStamp::of(fs::path(file) += suffix).size > 0; }
 
-/// `stampBefore` is that of a file which SQLite does not lock, from before it is opened.
+/// `stampBefore` is the stamp from before the file was opened, for a file that SQLite does not lock.
 Database openInPlace(const fs::path& file, const char* parameters, std::optional<FileStamp> stampBefore) {
   Connection connection = openConnection(uriOf(file, parameters), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   prepareForQueries(connection.get());
@@ -85,14 +86,15 @@ Database openInPlace(const fs::path& file, const char* parameters, std::optional
 } // namespace
 
 Database openSqliteDatabase(const fs::path& given) {
-  const fs::path file = fs::canonical(given); // its companions stand beside the file, not beside a link to it
+  const fs::path file = fs::canonical(given); // the -wal file is beside the file itself, not beside a link to it
   const FileStamp stamp = FileStamp::of(file);
   if (holdsBytes(file, "-wal"))
     return openCopy(file);
-  std::error_code impossible; // a name that is too long: no such file then
+  std::error_code impossible; // if the name is too long, there is no such file
   if (!isWriteAheadMode(file) && !fs::exists(fs::path(file) += "-wal", impossible))
-    return openInPlace(file, "mode=ro", std::nullopt); // SQLite locks it, and notices a hot journal
-  // In write-ahead mode SQLite makes files beside the database even to read it, unless told that nothing changes it.
+    return openInPlace(file, "mode=ro", std::nullopt); // SQLite locks the file and notices a hot journal
+  // To read a database in write-ahead mode SQLite creates files beside it, unless it is told that the file is
+  // immutable.
   return holdsBytes(file, "-journal") ? openCopy(file) : openInPlace(file, "mode=ro&immutable=1", stamp);
 }
 

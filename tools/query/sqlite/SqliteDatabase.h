@@ -4,8 +4,8 @@
 
 namespace LagomareQuery {
 
-/// Opens a SQLite file read-only and leaves nothing beside it, in write-ahead mode neither. Changes that still stand in
-/// a -wal file or a hot journal are read from a private copy. Throws QueryError.
+/// Opens a SQLite file for reading. Creates no files beside it, not even in write-ahead mode. If there are changes in a
+/// -wal file or a hot journal, a private copy is opened. Throws QueryError.
 [[nodiscard]] Database openSqliteDatabase(const std::filesystem::path& given);
 
 } // namespace LagomareQuery

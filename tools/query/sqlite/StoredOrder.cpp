@@ -12,7 +12,7 @@ bool contains(std::string_view text, std::string_view part) { return text.find(p
 
 bool sameName(const char* left, const std::string& right) { return sqlite3_stricmp(left, right.c_str()) == 0; }
 
-/// Whether the plan that SQLite makes by itself reads each table by rowid.
+/// Whether SQLite reads each table by rowid for this query.
 bool readsByRowid(sqlite3* connection, const std::string& sql) {
   constexpr int detailColumn = 3;
   const Statement plan = prepare(connection, "EXPLAIN QUERY PLAN " + sql);
@@ -39,7 +39,8 @@ std::vector<std::string> columnsOf(sqlite3* connection, const std::string& table
   return names;
 }
 
-/// The names that mean the rowid in this table; none in a table without rowid. A column takes such a name for itself.
+/// Returns the names of the rowid in this table; none if it has no rowid. A column can have such a name, which then
+/// does not mean the rowid.
 std::vector<std::string> rowidNamesOf(sqlite3* connection, const std::string& table,
                                       const std::vector<std::string>& columns) {
   std::vector<std::string> names;
@@ -53,7 +54,7 @@ std::vector<std::string> rowidNamesOf(sqlite3* connection, const std::string& ta
   return hasRowid ? names : std::vector<std::string>();
 }
 
-/// The terms that sort a table without rowid as it is stored, by its primary key.
+/// Returns the ORDER BY terms for the stored order of a table without rowid: its primary key.
 std::vector<std::string> keyTermsOf(sqlite3* connection, const std::string& table) {
   const Statement rows =
       prepare(connection, "SELECT printf('\"%w\" COLLATE \"%w\" %s', part.name, part.coll, iif(part.desc, 'DESC', '')) "
@@ -73,13 +74,12 @@ std::string joined(const std::vector<std::string>& parts) {
   return text;
 }
 
-/// The limit, which limits nothing, keeps SQLite from dissolving the view into a join and its order with it.
+/// LIMIT -1 limits nothing, but without it SQLite would merge the view into the query and drop its order.
 void shadowTable(sqlite3* connection, const std::string& table, bool hasRowidColumns) {
   const std::vector<std::string> columns = columnsOf(connection, table);
   const std::vector<std::string> names = rowidNamesOf(connection, table, columns);
   std::vector<std::string> terms;
-  for (const std::string& column :
-       columns) // a column that is called like a rowid must not be taken for one, see Select
+  for (const std::string& column : columns) // in other letters, so that the column is not taken for the rowid
     terms.push_back(quotedName(column) + (column == trueRowid ? " AS rowid" : ""));
   if (hasRowidColumns)
     for (const std::string& name : names)
@@ -97,9 +97,10 @@ void shadowTables(sqlite3* connection, bool haveRowidColumns) {
     shadowTable(connection, table, haveRowidColumns);
 }
 
-/// A stored view sees only the stored tables; its twin in the temporary schema sees their shadows.
+/// Views of the database read its tables directly; temporary views with the same definitions read the temporary views
+/// of the tables.
 void shadowViews(sqlite3* connection) {
-  constexpr std::string_view asStored = "CREATE VIEW "; // SQLite stores every view's text with this beginning
+  constexpr std::string_view asStored = "CREATE VIEW "; // the text that SQLite stores always begins with this
   for (const std::string& sql : texts(connection, "SELECT sql FROM main.sqlite_master WHERE type = 'view'"))
     execute(connection, "CREATE TEMP VIEW " + sql.substr(std::min(sql.size(), asStored.size())));
 }
@@ -116,9 +117,9 @@ StoredOrderQuery::StoredOrderQuery(sqlite3* connection, const std::string& sql)
     return;
   const int columns = sqlite3_column_count(statement());
   prepareWithShadows(connection, sql, Rowid::hidden);
-  if (select_.readsRowidOfView) // which is NULL
+  if (select_.readsRowidOfView) // a view's rowid is NULL
     prepareWithShadows(connection, sql, Rowid::asColumn);
-  if (sqlite3_column_count(statement()) != columns) // the rowid is among those that * stands for
+  if (sqlite3_column_count(statement()) != columns) // * has returned the rowid too
     throw QueryError("rowid and * cannot be used together where an index would be; name the columns");
 }
 

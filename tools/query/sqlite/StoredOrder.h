@@ -4,15 +4,16 @@
 
 namespace LagomareQuery {
 
-/// A selecting statement whose tables' rows come in stored order, by rowid, whatever indexes exist: row order carries
-/// meaning, and an index that covers a query would shuffle it. What the statement itself orders, groups or makes
-/// distinct comes as it says.
+/// A compiled query that reads each table in stored order, by rowid. The order of rows has a meaning for the importer,
+/// and SQLite would return them in the order of an index if that index has all columns of the query. ORDER BY, GROUP BY
+/// and DISTINCT in the query work as usual.
 ///
-/// Mostly the statement is compiled as it is. Where SQLite would use an index, temporary views of the tables' names
-/// shadow the tables, each selecting its table's rows by rowid, without indexes; the views go with this object.
+/// A query for which SQLite uses no index is compiled as it is. Otherwise each table is hidden by a temporary view with
+/// the same name, which selects the table's rows by rowid and without indexes. The views are dropped with this object.
 class StoredOrderQuery {
 public:
-  /// Compiles the one statement in `sql`. Throws QueryError. One at a time on a connection, which must outlive it.
+  /// Compiles the one statement in `sql`. A connection, which must outlive the query, can have one at a time. Throws
+  /// QueryError.
   StoredOrderQuery(sqlite3* connection, const std::string& sql);
 
   [[nodiscard]] sqlite3_stmt* statement() const { return select_.statement.get(); }
@@ -27,7 +28,7 @@ private:
   struct DropShadows {
     void operator()(sqlite3* connection) const;
   };
-  std::unique_ptr<sqlite3, DropShadows> shadows_; // goes after the statement that reads them
+  std::unique_ptr<sqlite3, DropShadows> shadows_; // destroyed after the statement that reads the views
   Select select_;
 };
 

@@ -22,12 +22,12 @@ std::uint32_t littleEndian(const std::uint8_t* bytes) {
   return std::uint32_t{bytes[3]} << 24 | std::uint32_t{bytes[2]} << 16 | std::uint32_t{bytes[1]} << 8 | bytes[0];
 }
 
-/// The running checksum of header and frames, over pairs of 32-bit numbers.
+/// The running checksum of the header and the frames.
 class Checksum {
 public:
   explicit Checksum(bool isBigEndian) : number_(isBigEndian ? bigEndian : littleEndian) {}
 
-  /// `size` is a multiple of 8.
+  /// `size` must be a multiple of 8.
   void add(const std::uint8_t* bytes, std::size_t size) {
     for (std::size_t i = 0; i < size; i += 8) {
       first_ += number_(bytes + i) + second_;
@@ -60,19 +60,19 @@ public:
     checksum_ = Checksum((magic & 1) != 0);
     checksum_.add(header_.data(), 24);
     if ((magic | 1) != 0x377F0683 || !checksum_.equals(&header_[24]) || pageSize < 512 || pageSize > 65536)
-      throwIgnored("its header does not fit");
+      throwIgnored("its header is not valid");
     frame_.resize(frameHeaderSize + pageSize);
   }
 
-  /// False behind the last whole frame.
+  /// Reads the next frame; returns false after the last complete one.
   [[nodiscard]] bool nextFrame() { return read(frame_.data(), frame_.size()); }
 
-  /// Whether the frame bears one of the log's salts: damage of one of them does not make it another time's.
-  [[nodiscard]] bool isOfThisTime() const {
+  /// Whether the frame has at least one of the header's salts: a damaged salt does not make it an old frame.
+  [[nodiscard]] bool isCurrent() const {
     return bigEndian(&frame_[8]) == bigEndian(&header_[16]) || bigEndian(&frame_[12]) == bigEndian(&header_[20]);
   }
-  /// Whether the frame continues those before it, of which each must have been asked.
-  [[nodiscard]] bool fits() {
+  /// Whether the frame has both salts and the right checksum. Must be called for each frame in turn.
+  [[nodiscard]] bool isValid() {
     checksum_.add(frame_.data(), 8);
     checksum_.add(&frame_[frameHeaderSize], frame_.size() - frameHeaderSize);
     return std::equal(&frame_[8], &frame_[16], &header_[16]) && checksum_.equals(&frame_[16]);
@@ -95,16 +95,16 @@ private:
 void requireWholeLog(const std::filesystem::path& log) {
   Log frames(log);
   bool hasTransaction = false;
-  bool isBehindOwnFrames = false;
+  bool hasOldFrames = false;
   for (std::uint64_t number = 1; frames.nextFrame(); ++number) {
-    isBehindOwnFrames = isBehindOwnFrames || !frames.isOfThisTime();
-    if (frames.isOfThisTime() && (isBehindOwnFrames || !frames.fits()))
-      throwIgnored("frame " + std::to_string(number) + " does not fit");
-    if (!isBehindOwnFrames && frames.endsTransaction())
+    hasOldFrames = hasOldFrames || !frames.isCurrent();
+    if (frames.isCurrent() && (hasOldFrames || !frames.isValid()))
+      throwIgnored("frame " + std::to_string(number) + " is not valid");
+    if (!hasOldFrames && frames.endsTransaction())
       hasTransaction = true;
   }
   if (!hasTransaction)
-    throwIgnored("it holds no whole transaction");
+    throwIgnored("it has no complete transaction");
 }
 
 } // namespace LagomareQuery

@@ -4,22 +4,23 @@
 
 namespace LagomareQuery {
 
-/// Throws QueryError where SQLite would ignore a part of a database's -wal file that may hold rows.
+/// Throws QueryError if SQLite would ignore a part of a database's -wal file that may hold rows.
 ///
-/// Such a log is a header and frames, each a page of the database. Header and frames bear the two salts of the time
-/// when the log was last begun anew, and checksums, of which each continues the one before. A frame may end a
-/// transaction. SQLite reads the log up to the end of the last transaction before the first frame that does not fit,
-/// and ignores the rest. That is right for what a crash leaves, and for frames of an earlier time of the log; so a log
-/// is taken where it holds, one behind the other,
+/// A -wal file consists of a header and frames. A frame holds one page of the database, and may end a transaction. The
+/// header has two random numbers, the salts, which are repeated in each frame and change whenever the file is written
+/// from its beginning again. The header and each frame have a checksum over everything before it. SQLite reads up to
+/// the first frame that is not valid, and uses what was read up to the end of the last complete transaction. The rest
+/// is ignored. This is right after a crash, and for old frames that have not been overwritten yet. So the file must
+/// consist of these parts, in this order:
 ///
-/// 1. a header that fits,
-/// 2. at least one whole transaction,
-/// 3. frames that fit, of a transaction that has no end,
-/// 4. frames both of whose salts are others,
-/// 5. a part of a frame, at the file's end,
+/// 1. a valid header;
+/// 2. valid frames of at least one complete transaction;
+/// 3. optionally, valid frames of a transaction that is not complete;
+/// 4. optionally, old frames: both salts differ from those of the header;
+/// 5. optionally, a part of a frame at the end of the file.
 ///
-/// of which 3 to 5 may be missing. Anything else is an error: a header that does not fit, a log that was cut in its
-/// first transaction, a frame with one of the salts that does not fit.
+/// Anything else is an error, such as a file that ends within its first transaction, or a frame that is not valid but
+/// has one of the salts.
 void requireWholeLog(const std::filesystem::path& log);
 
 } // namespace LagomareQuery
