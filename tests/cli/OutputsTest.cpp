@@ -87,6 +87,11 @@ TEST_F(OutputsTest, ReplacesWhatALinkNamesAndKeepsItsPermissions) {
   EXPECT_EQ(fs::status("far/links.csv").permissions(), fs::perms(0666U & ~mask));
 }
 
+TEST_F(OutputsTest, WritesIntoAPipeThatALinkNames) {
+  const std::string command = std::string(LAGOMARE) + " import basin.db --no-check --quiet --json /dev/stdout | cat";
+  EXPECT_THAT(run({"/bin/sh", "-c", command}).out, HasSubstr("lagomare-scenario"));
+}
+
 TEST_F(OutputsTest, AnImportLeavesNothingBesideTheProject) {
   fs::create_directory("alone");
   project("", "alone/basin.db");

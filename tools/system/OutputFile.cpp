@@ -31,14 +31,15 @@ OutputFile::OutputFile(const std::string& name) : name_(name) {
   }
   place_ = resolved(name);
   std::error_code error;
-  const fs::file_status status = fs::status(place_, error);
+  const fs::file_status status = fs::status(fs::u8path(name), error);
   if (status.type() == fs::file_type::none)
     fail(error);
   if (fs::is_directory(status) || !place_.has_filename())
     fail(std::make_error_code(std::errc::is_a_directory));
-  if (fs::exists(status) && !fs::is_regular_file(status))
+  if (fs::exists(status) && !fs::is_regular_file(status)) {
+    place_ = fs::u8path(name); // a link such as /dev/stdout may name a pipe, which has no path of its own
     openDirectly();
-  else if (!fs::exists(status))
+  } else if (!fs::exists(status))
     openBeside(fs::perms::unknown);
   else if (openFile(place_, "r+b") != nullptr) // it may be written to
     openBeside(status.permissions());
