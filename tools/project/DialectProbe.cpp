@@ -16,6 +16,8 @@ bool isHeld(ProjectSource& source, const std::string& table, bool isBundled, std
     const auto rows = Lagomare::parseRows(*source.ask("select count(*) from " + (isBundled ? listed : table), false));
     return !rows.empty() && (!isBundled || rows.begin()->first > 0);
   } catch (const QueryRefused& refusal) {
+    if (isBundled)
+      throw; // the file cannot be read at all
     reasons += std::string("; ") + refusal.what();
   } catch (const Lagomare::FieldError& error) {
     reasons +=
