@@ -10,7 +10,7 @@ namespace LagomareTools {
 /// What the general settings and the boundaries say.
 struct Settings {
   std::optional<Interval> interval; ///< nothing where they do not tell it; never empty
-  bool askForStates = false;
+  bool askForStates = true; ///< also where they do not tell it: then the states' tables are checked as they stand
   unsigned numOfStates = 0; ///< 0 where they are not asked for
 };
 

@@ -54,7 +54,8 @@ private:
   const LegacyTable& table_;
   TableRows rows_;
   std::optional<SettingsRow> chosen_;
-  bool areKeysGood_ = true; ///< of the rows that do not count
+  bool areKeysGood_ = true;   ///< of the rows that do not count
+  bool isPeriodGood_ = false; ///< the import can read it
 };
 
 /// The import groups the rows by their first column, read as a number, and takes the first row of the smallest one. A
@@ -104,14 +105,15 @@ void SettingsRules::reportFurtherRows(std::size_t rows) {
 void SettingsRules::convert() {
   readPeriod();
   const auto statesSwitch = readWhole(rows_, columnOf(Meaning::statesSwitch));
-  inspection_.settings.askForStates = statesSwitch && (*statesSwitch == 0) == inspection_.schema.isStatesSwitchZero;
+  if (statesSwitch)
+    inspection_.settings.askForStates = (*statesSwitch == 0) == inspection_.schema.isStatesSwitchZero;
   const std::size_t flag = columnOf(Meaning::tacticalFlag);
   const auto tactical = readWhole(rows_, flag);
   if (!tactical || *tactical == 0)
     return;
   rows_.add(Code::tacticalProject, rows_.place(flag),
             [&] { return std::string(*rows_.at(flag)) + " stands for tactical planning"; });
-  if (inspection_.settings.interval && statesSwitch && areKeysGood_)
+  if (isPeriodGood_ && statesSwitch && areKeysGood_)
     inspection_.prospect = Prospect::refused;
 }
 
@@ -121,13 +123,17 @@ void SettingsRules::readPeriod() {
   const auto duration = readWhole(rows_, column);
   if (duration == 0U)
     rows_.add(Code::emptyPeriod, rows_.place(column), [] { return "the duration is 0 years"; });
-  if (!isStart || !duration || *duration == 0)
+  if (!isStart || !duration)
+    return;
+  isPeriodGood_ = *duration == 0; // the library makes an empty period of it, and may refuse the project then
+  if (isPeriodGood_)
     return;
   std::vector<std::string> fields(rows_.fields().begin(), rows_.fields().end());
   try {
     inspection_.settings.interval = inspection_.dialect == Dialect::of2010
                                         ? Lagomare2010::SceneryProjectManager::loadInterval({std::move(fields)})
                                         : Lagomare2013::SceneryProjectManager::loadInterval({std::move(fields)});
+    isPeriodGood_ = true;
   } catch (const std::invalid_argument&) {
     rows_.add(Code::periodTooLong, rows_.place(column),
               [&] { return "a duration of " + std::to_string(*duration) + " years leads past the year 9999"; });
