@@ -77,36 +77,36 @@ TEST(ReportTest, LabelsDoNotBuryEachOther) {
   LabelPlacer labels(nodes.size(), 500);
   for (MapPoint& node : nodes)
     labels.addSymbol(node = {place(random), place(random)}, 7);
-  struct Box {
+  struct LabelBox {
     double left, top, right, bottom;
     std::size_t owner;
     unsigned level;
   };
-  std::vector<Box> boxes; // around 0/0
+  std::vector<LabelBox> boxes; // around 0/0
   for (std::size_t index = 0; index < nodes.size(); ++index)
-    if (const auto label = labels.place({nodes[index], 7, {}}, 12)) {
+    if (const auto label = labels.place(nodes[index], 7, 12)) {
       const double width = 12 * LabelPlacer::textWidth;
       const double left = label->x - (*label->anchor == 's' ? 0 : *label->anchor == 'e' ? width : width / 2);
       boxes.push_back({left, label->y - 9, left + width, label->y + 2, index, label->level});
     }
   EXPECT_GT(boxes.size(), 290);
   for (unsigned level = 0; level < numOfMapLevels; ++level) {
-    const auto at = [&](const Box& box) {
+    const auto at = [&](const LabelBox& box) {
       const MapPoint node = nodes[box.owner];
       const double pixels = pixelsPerUnit(level);
-      return Box{node.x * pixels + box.left,
-                 node.y * pixels + box.top,
-                 node.x * pixels + box.right,
-                 node.y * pixels + box.bottom,
-                 box.owner,
-                 box.level};
+      return LabelBox{node.x * pixels + box.left,
+                      node.y * pixels + box.top,
+                      node.x * pixels + box.right,
+                      node.y * pixels + box.bottom,
+                      box.owner,
+                      box.level};
     };
     std::size_t buried = 0;
-    for (const Box& one : boxes)
-      for (const Box& other : boxes)
+    for (const LabelBox& one : boxes)
+      for (const LabelBox& other : boxes)
         if (one.owner < other.owner && one.level <= level && other.level <= level) {
-          const Box a = at(one);
-          const Box b = at(other);
+          const LabelBox a = at(one);
+          const LabelBox b = at(other);
           buried += a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
         }
     EXPECT_EQ(buried, 0U) << "at level " << level;

@@ -1,40 +1,34 @@
 #include "tools/export/report/LabelPlacer.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdint>
 
 namespace LagomareTools {
 
 namespace {
 
-constexpr double cell = 48.0;     ///< pixels
 constexpr double gap = 3.0;       ///< between a symbol and its label
 constexpr double breathing = 4.0; ///< free room between labels
-
-template <typename Visit>
-void forEachCell(double left, double top, double right, double bottom, Visit visit) {
-  const auto index = [](double place) { return static_cast<std::int64_t>(std::floor(place / cell)); };
-  for (std::int64_t row = index(top); row <= index(bottom); ++row)
-    for (std::int64_t column = index(left); column <= index(right); ++column)
-      visit(row * 1000000 + column);
-}
+constexpr double linkWidth = 4.0;
 
 /// The places for a label beside a symbol, the best first.
 std::array<LabelPlace, 8> placesAround(double radius, unsigned level) {
   const double aside = radius + gap;
   const double middle = LabelPlacer::textHeight * 0.35;
-  const double below = aside + LabelPlacer::textHeight * 0.75;
   const double corner = radius * 0.7 + 1.0;
+  const double hanging = LabelPlacer::textHeight * 0.75;
   return {{{aside, middle, "start", level},
            {-aside, middle, "end", level},
            {corner, -corner, "start", level},
-           {corner, corner + LabelPlacer::textHeight * 0.75, "start", level},
+           {corner, corner + hanging, "start", level},
            {-corner, -corner, "end", level},
-           {-corner, corner + LabelPlacer::textHeight * 0.75, "end", level},
-           {0, below, "middle", level},
+           {-corner, corner + hanging, "end", level},
+           {0, aside + hanging, "middle", level},
            {0, -aside, "middle", level}}};
+}
+
+MapBox boxAround(MapPoint at, double pixels, double radius) {
+  return MapBox{at.x * pixels, at.y * pixels, at.x * pixels, at.y * pixels}.grownBy(radius);
 }
 
 } // namespace
@@ -47,88 +41,62 @@ double roomForSymbols(std::size_t nodes) {
 
 double symbolScale(double pixelsPerUnit, double room) { return std::clamp(pixelsPerUnit * room, 0.4, 1.0); }
 
-void LabelPlacer::addSymbol(MapPoint at, double radius) {
+void LabelPlacer::addSymbol(MapPoint at, double radius, unsigned firstLevel) {
+  for (unsigned level = firstLevel; level < numOfMapLevels; ++level) {
+    const double pixels = pixelsPerUnit(level);
+    taken_[level].add(boxAround(at, pixels, radius * symbolScale(pixels, room_)));
+  }
+}
+
+void LabelPlacer::addLink(const LinkLine& line) {
   for (unsigned level = 0; level < numOfMapLevels; ++level) {
     const double pixels = pixelsPerUnit(level);
-    const double size = radius * symbolScale(pixels, room_);
-    take({at.x * pixels - size, at.y * pixels - size, at.x * pixels + size, at.y * pixels + size}, level);
+    const auto steps = static_cast<unsigned>(line.length() * pixels / linkWidth) + 1;
+    for (unsigned step = 0; step <= steps; ++step)
+      links_[level].add(boxAround(line.at(static_cast<double>(step) / steps), pixels, linkWidth / 2));
   }
 }
 
-std::optional<LabelPlace> LabelPlacer::place(const LabelOwner& owner, std::size_t length) {
-  constexpr unsigned patience = 2; // levels that one waits for a place which no link crosses
-  for (unsigned level = 0; level < numOfMapLevels + patience; ++level)
-    for (const bool isCrossedThere : {false, true})
-      if (const unsigned later = isCrossedThere ? patience : 0; level >= later && level - later < numOfMapLevels)
-        if (const auto place = placeAt(owner, length, level - later, isCrossedThere))
-          return place;
-  return std::nullopt;
+std::optional<LabelPlace> LabelPlacer::place(MapPoint at, double radius, std::size_t length) {
+  constexpr unsigned patience = 1; // levels that one waits for a place which no link crosses
+  const Label label{at, radius, length};
+  std::optional<LabelPlace> place;
+  for (unsigned level = 0; !place && level < numOfMapLevels + patience; ++level) {
+    if (level < numOfMapLevels)
+      place = find(label, level, false);
+    if (!place && level >= patience)
+      place = find(label, level - patience, true);
+  }
+  if (place)
+    for (unsigned level = place->level; level < numOfMapLevels; ++level)
+      taken_[level].add(boxOf(label, *place, level).grownBy(breathing));
+  return place;
 }
 
-std::optional<LabelPlace> LabelPlacer::placeAt(const LabelOwner& owner, std::size_t length, unsigned level,
-                                               bool isCrossedThere) {
-  for (const LabelPlace& place : placesAround(owner.radius, level))
-    if (isCrossed(place, owner, length) == isCrossedThere && isFreeFrom(place, owner.at, length)) {
-      for (unsigned further = level; further < numOfMapLevels; ++further)
-        takeLabel(labelBox(place, owner.at, length, further), further);
+std::optional<LabelPlace> LabelPlacer::find(const Label& label, unsigned level, bool isCrossed) const {
+  for (const LabelPlace& place : placesAround(label.radius, level))
+    if (links_[level].isFree(boxOf(label, place, level)) != isCrossed && isFree(label, place))
       return place;
-    }
   return std::nullopt;
 }
 
-bool LabelPlacer::isFreeFrom(const LabelPlace& place, MapPoint at, std::size_t length) const {
-  unsigned level = place.level;
-  while (level < numOfMapLevels && isFree(labelBox(place, at, length, level), level))
-    ++level;
-  return level == numOfMapLevels;
-}
-
-bool LabelPlacer::isCrossed(const LabelPlace& place, const LabelOwner& owner, std::size_t length) {
-  constexpr unsigned points = 24; // of a link, so near each other that no label lies between them
-  constexpr double step = 3.0;
-  const Box box = labelBox(place, {0, 0}, length, 0);
-  for (const MapPoint& neighbour : owner.neighbours) {
-    const double x = neighbour.x - owner.at.x;
-    const double y = neighbour.y - owner.at.y;
-    const double distance = std::max(std::hypot(x, y), 1e-9);
-    for (unsigned index = 0; index < points; ++index) {
-      const double reach = (owner.radius + index * step) / distance;
-      if (box.left < x * reach && x * reach < box.right && box.top < y * reach && y * reach < box.bottom)
-        return true;
-    }
+bool LabelPlacer::isFree(const Label& label, const LabelPlace& place) const {
+  for (unsigned level = place.level; level < numOfMapLevels; ++level) {
+    const MapBox box = boxOf(label, place, level);
+    const double pixels = pixelsPerUnit(level);
+    if (box.left < 0 || box.top < 0 || box.right > NetworkMap::width * pixels || box.bottom > height_ * pixels ||
+        !taken_[level].isFree(box))
+      return false;
   }
-  return false;
+  return true;
 }
 
-LabelPlacer::Box LabelPlacer::labelBox(const LabelPlace& place, MapPoint at, std::size_t length, unsigned level) {
-  const double width = textWidth * static_cast<double>(length);
+MapBox LabelPlacer::boxOf(const Label& label, const LabelPlace& place, unsigned level) {
+  const double width = textWidth * static_cast<double>(label.length);
   const double begin = place.anchor[0] == 's' ? 0 : place.anchor[0] == 'e' ? -width : -width / 2;
-  const double left = at.x * pixelsPerUnit(level) + place.x + begin;
-  const double base = at.y * pixelsPerUnit(level) + place.y;
+  const double left = label.at.x * pixelsPerUnit(level) + place.x + begin;
+  const double base = label.at.y * pixelsPerUnit(level) + place.y;
   return {left, base - textHeight * 0.8, left + width, base + textHeight * 0.2};
-}
-
-bool LabelPlacer::isFree(const Box& box, unsigned level) const {
-  const double pixels = pixelsPerUnit(level);
-  bool isFree =
-      box.left >= 0 && box.top >= 0 && box.right <= NetworkMap::width * pixels && box.bottom <= height_ * pixels;
-  const auto covers = [&box](const Box& other) {
-    return other.left < box.right && box.left < other.right && other.top < box.bottom && box.top < other.bottom;
-  };
-  forEachCell(box.left, box.top, box.right, box.bottom, [&](std::int64_t key) {
-    const auto found = boxes_[level].find(key);
-    if (found != boxes_[level].end() && std::any_of(found->second.begin(), found->second.end(), covers))
-      isFree = false;
-  });
-  return isFree;
-}
-
-void LabelPlacer::takeLabel(const Box& box, unsigned level) {
-  take({box.left - breathing, box.top - breathing, box.right + breathing, box.bottom + breathing}, level);
-}
-
-void LabelPlacer::take(const Box& box, unsigned level) {
-  forEachCell(box.left, box.top, box.right, box.bottom, [&](std::int64_t key) { boxes_[level][key].push_back(box); });
 }
 
 } // namespace LagomareTools

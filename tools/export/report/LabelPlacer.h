@@ -1,13 +1,12 @@
 #pragma once
 
+#include "tools/export/report/LinkLine.h"
+#include "tools/export/report/MapBoxes.h"
 #include "tools/export/report/NetworkMap.h"
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
-#include <unordered_map>
-#include <vector>
 
 namespace LagomareTools {
 
@@ -22,13 +21,6 @@ constexpr unsigned usualMapLevel = 2;
 /// The size of symbols at a level, at most 1.
 [[nodiscard]] double symbolScale(double pixelsPerUnit, double room);
 
-/// What a label stands beside.
-struct LabelOwner {
-  MapPoint at;
-  double radius;                    ///< of its symbol, in pixels
-  std::vector<MapPoint> neighbours; ///< where its links lead
-};
-
 /// A label's place beside its node, in pixels: where its text is anchored, and the first level that has room for it.
 struct LabelPlace {
   double x;
@@ -37,8 +29,8 @@ struct LabelPlace {
   unsigned level;
 };
 
-/// Finds places for labels at which they cover neither a symbol nor a label placed before. A label that is shown at a
-/// level stays at all further ones.
+/// Finds places for labels at which they cover neither a symbol nor a label placed before, and no link if that can be.
+/// A label that is shown at a level stays at all further ones.
 class LabelPlacer {
 public:
   static constexpr double textHeight = 12.0;
@@ -49,33 +41,28 @@ public:
 
   [[nodiscard]] double room() const { return room_; }
 
-  /// Keeps a symbol's place free. All symbols come before the first label.
-  void addSymbol(MapPoint at, double radius);
-  /// A place for a label of so many characters, clear of the node's own links if it can be; nothing where there is no
-  /// room at any level.
-  [[nodiscard]] std::optional<LabelPlace> place(const LabelOwner& owner, std::size_t length);
+  /// Keeps a symbol's place free, from a level on. All symbols and links come before the first label.
+  void addSymbol(MapPoint at, double radius, unsigned firstLevel = 0);
+  void addLink(const LinkLine& line);
+  /// A place for a label of so many characters beside a symbol; nothing where there is no room at any level.
+  [[nodiscard]] std::optional<LabelPlace> place(MapPoint at, double radius, std::size_t length);
 
 private:
-  struct Box {
-    double left;
-    double top;
-    double right;
-    double bottom;
+  struct Label {
+    MapPoint at;
+    double radius;
+    std::size_t length;
   };
 
-  [[nodiscard]] std::optional<LabelPlace> placeAt(const LabelOwner& owner, std::size_t length, unsigned level,
-                                                  bool isCrossedThere);
-  [[nodiscard]] static Box labelBox(const LabelPlace& place, MapPoint at, std::size_t length, unsigned level);
-  [[nodiscard]] static bool isCrossed(const LabelPlace& place, const LabelOwner& owner, std::size_t length);
-  [[nodiscard]] bool isFreeFrom(const LabelPlace& place, MapPoint at, std::size_t length) const;
-  [[nodiscard]] bool isFree(const Box& box, unsigned level) const;
-  void takeLabel(const Box& box, unsigned level);
-  void take(const Box& box, unsigned level);
+  [[nodiscard]] static MapBox boxOf(const Label& label, const LabelPlace& place, unsigned level);
+  /// A place that is free at this and all further levels, and at this level crossed by a link or not, as is asked.
+  [[nodiscard]] std::optional<LabelPlace> find(const Label& label, unsigned level, bool isCrossed) const;
+  [[nodiscard]] bool isFree(const Label& label, const LabelPlace& place) const;
 
   double room_;
   double height_;
-  std::array<std::unordered_map<std::int64_t, std::vector<Box>>, numOfMapLevels>
-      boxes_; ///< by level, by cell of a grid
+  std::array<MapBoxes, numOfMapLevels> taken_; ///< by level, as links_
+  std::array<MapBoxes, numOfMapLevels> links_;
 };
 
 } // namespace LagomareTools

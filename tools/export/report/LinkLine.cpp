@@ -24,8 +24,12 @@ double LinkLine::length() const { return std::hypot(end_.x - begin_.x, end_.y - 
 
 double LinkLine::angle() const { return std::atan2(end_.y - begin_.y, end_.x - begin_.x) * 180.0 / std::acos(-1.0); }
 
-MapPoint LinkLine::middle() const {
-  return {(begin_.x + 2 * bend_.x + end_.x) / 4, (begin_.y + 2 * bend_.y + end_.y) / 4};
+MapPoint LinkLine::at(double part) const {
+  const double rest = 1 - part;
+  const auto mix = [&](double begin, double bend, double end) {
+    return rest * rest * begin + 2 * rest * part * bend + part * part * end;
+  };
+  return {mix(begin_.x, bend_.x, end_.x), mix(begin_.y, bend_.y, end_.y)};
 }
 
 std::string LinkLine::path() const {

@@ -14,7 +14,8 @@ public:
 
   [[nodiscard]] double length() const; ///< between the ends
   [[nodiscard]] double angle() const;  ///< degrees, clockwise from the right
-  [[nodiscard]] MapPoint middle() const;
+  /// From 0, its begin, to 1, its end.
+  [[nodiscard]] MapPoint at(double part) const;
   /// As SVG. A link from a node to itself is a loop.
   [[nodiscard]] std::string path() const;
 

@@ -21,6 +21,7 @@ namespace {
 
 constexpr std::size_t longestLabel = 26;
 constexpr double shortestArrowLink = 26.0; ///< pixels; on a shorter link an arrow head would hide it
+constexpr double arrowRadius = 4.0;
 constexpr double usualScaleBar = 130.0;
 
 std::string titleOf(const Element& element) {
@@ -33,6 +34,14 @@ std::string shownLevels() {
   for (unsigned level = 0; level <= usualMapLevel; ++level)
     classes += fmt::format("{}at-{}", level == 0 ? "" : " ", level);
   return classes;
+}
+
+/// The first level that has room for a link's arrow.
+unsigned arrowLevelOf(const LinkLine& line) {
+  unsigned level = 0;
+  while (level < numOfMapLevels && line.length() * pixelsPerUnit(level) < shortestArrowLink)
+    ++level;
+  return level;
 }
 
 /// The larger, the more one looks for its name.
@@ -50,32 +59,33 @@ public:
   void write();
 
 private:
-  void writeLink(const Link& link);
+  void writeLink(const Link& link, const LinkLine& line);
   void writeNode(const Node& node);
   void writeScaleBar();
   void writeMissing(std::size_t links);
+  void makeLines();
   void placeLabels();
-  [[nodiscard]] std::vector<MapPoint> neighboursOf(const Node& node) const;
 
   FileWriter& out_;
   const Network& network_;
   NetworkMap map_;
   LabelPlacer labels_;
   std::unordered_map<const Node*, LabelPlace> places_;
-  std::map<std::pair<std::uint32_t, std::uint32_t>, unsigned> linksBetween_; ///< by the ids of the two ends
+  std::vector<std::pair<const Link*, LinkLine>> lines_; ///< of the links whose ends are on the map
 };
 
-std::vector<MapPoint> Drawing::neighboursOf(const Node& node) const {
-  std::vector<MapPoint> neighbours;
-  const auto add = [&](const std::weak_ptr<Node>& neighbour) {
-    if (const auto point = map_.find(neighbour.lock().get()))
-      neighbours.push_back(*point);
-  };
-  for (const auto& link : node.getUpstreamLinks())
-    add(link->upstream);
-  for (const auto& link : node.getDownstreamLinks())
-    add(link->downstream);
-  return neighbours;
+void Drawing::makeLines() {
+  std::map<std::pair<std::uint32_t, std::uint32_t>, unsigned> linksBetween; // by the ids of the two ends
+  for (const auto& link : network_.links) {
+    const auto upstream = link->upstream.lock();
+    const auto downstream = link->downstream.lock();
+    const auto begin = map_.find(upstream.get());
+    const auto end = map_.find(downstream.get());
+    if (!begin || !end)
+      continue;
+    const int side = LinkLine::sideOf(linksBetween[std::minmax(upstream->bdId, downstream->bdId)]++);
+    lines_.push_back({link.get(), LinkLine(*begin, *end, upstream->bdId < downstream->bdId ? side : -side)});
+  }
 }
 
 void Drawing::placeLabels() {
@@ -91,34 +101,30 @@ void Drawing::placeLabels() {
       labels_.addSymbol(*point, look.radius);
       candidates.push_back({look.rank, weightOf(*node), node.get()});
     }
+  for (const auto& [link, line] : lines_) {
+    labels_.addLink(line);
+    labels_.addSymbol(line.at(0.5), arrowRadius, arrowLevelOf(line));
+  }
   std::stable_sort(candidates.begin(), candidates.end(), [](const Candidate& one, const Candidate& other) {
     return one.rank != other.rank ? one.rank > other.rank : one.weight > other.weight;
   });
   for (const Candidate& candidate : candidates) {
     const std::string label = shortened(candidate.node->getName(), longestLabel);
     const double radius = lookOf(candidate.node->getElementType()->type()).radius;
-    if (const auto place =
-            labels_.place({*map_.find(candidate.node), radius, neighboursOf(*candidate.node)}, lengthOf(label)))
+    if (const auto place = labels_.place(*map_.find(candidate.node), radius, lengthOf(label)))
       places_.emplace(candidate.node, *place);
   }
 }
 
-void Drawing::writeLink(const Link& link) {
-  const Node* const upstream = link.upstream.lock().get();
-  const Node* const downstream = link.downstream.lock().get();
-  const int side = LinkLine::sideOf(linksBetween_[std::minmax(upstream->bdId, downstream->bdId)]++);
-  const LinkLine line(*map_.find(upstream), *map_.find(downstream), upstream->bdId < downstream->bdId ? side : -side);
-  unsigned level = 0;
-  while (level < numOfMapLevels && line.length() * pixelsPerUnit(level) < shortestArrowLink)
-    ++level;
-  const MapPoint middle = line.middle();
+void Drawing::writeLink(const Link& link, const LinkLine& line) {
+  const MapPoint middle = line.at(0.5);
   const std::string path = line.path();
   out_.write(fmt::format(
       R"svg(<g data-key="{}" class="link kind-{}"><title>{}</title><path class="reach" d="{}"/><path class="line" d="{}"/>
 <g transform="translate({:.1f} {:.1f}) rotate({:.0f})"><path class="arrow from-{}" d="{}"/></g></g>
 )svg",
-      keyOf(link), link.getElementType()->id, titleOf(link), path, path, middle.x, middle.y, line.angle(), level,
-      arrowPath(link.getIsBidirectional())));
+      keyOf(link), link.getElementType()->id, titleOf(link), path, path, middle.x, middle.y, line.angle(),
+      arrowLevelOf(line), arrowPath(link.getIsBidirectional())));
 }
 
 void Drawing::writeNode(const Node& node) {
@@ -169,6 +175,7 @@ void Drawing::writeMissing(std::size_t links) {
 }
 
 void Drawing::write() {
+  makeLines();
   placeLabels();
   out_.write(fmt::format(
       R"svg(<svg class="network {} size-{:.0f}" viewBox="0 0 {:.0f} {:.0f}" role="img" aria-label="Map of the
@@ -178,19 +185,15 @@ network: {}, {}. The tables of elements say the same in words." data-room="{:.4g
       shownLevels(), symbolScale(1.0, labels_.room()) * 10, NetworkMap::width, map_.height(),
       counted(network_.nodes.size(), "node", "nodes"), counted(network_.links.size(), "link", "links"), labels_.room(),
       map_.kilometresPerUnit()));
-  std::size_t missingLinks = 0;
-  for (const auto& link : network_.links)
-    if (map_.find(link->upstream.lock().get()) && map_.find(link->downstream.lock().get()))
-      writeLink(*link);
-    else
-      ++missingLinks;
+  for (const auto& [link, line] : lines_)
+    writeLink(*link, line);
   for (const auto& node : network_.nodes)
     if (map_.find(node.get()))
       writeNode(*node);
   out_.write("</g>\n");
   writeScaleBar();
   out_.write("</svg>\n");
-  writeMissing(missingLinks);
+  writeMissing(network_.links.size() - lines_.size());
 }
 
 } // namespace
