@@ -33,8 +33,10 @@ std::vector<std::string> texts(sqlite3* connection, std::string_view sql) {
 
 std::vector<std::string> columnsOf(sqlite3* connection, const std::string& table) {
   const Statement all = prepare(connection, "SELECT * FROM main." + quotedName(table));
+  const int count = sqlite3_column_count(all.get());
   std::vector<std::string> names;
-  for (int column = 0; column < sqlite3_column_count(all.get()); ++column)
+  names.reserve(static_cast<std::size_t>(count));
+  for (int column = 0; column < count; ++column)
     names.emplace_back(sqlite3_column_name(all.get(), column));
   return names;
 }
@@ -79,6 +81,7 @@ void shadowTable(sqlite3* connection, const std::string& table, bool hasRowidCol
   const std::vector<std::string> columns = columnsOf(connection, table);
   const std::vector<std::string> names = rowidNamesOf(connection, table, columns);
   std::vector<std::string> terms;
+  terms.reserve(columns.size() + names.size());
   for (const std::string& column : columns) // in other letters, so that the column is not taken for the rowid
     terms.push_back(quotedName(column) + (column == trueRowid ? " AS rowid" : ""));
   if (hasRowidColumns)

@@ -55,7 +55,7 @@ public:
   explicit Log(const std::filesystem::path& file) : stream_(file, std::ios::binary) {
     if (!read(header_.data(), header_.size()))
       throwIgnored("it ends within its header");
-    const std::uint32_t magic = bigEndian(&header_[0]);
+    const std::uint32_t magic = bigEndian(header_.data());
     const std::uint32_t pageSize = bigEndian(&header_[8]);
     checksum_ = Checksum((magic & 1) != 0);
     checksum_.add(header_.data(), 24);
