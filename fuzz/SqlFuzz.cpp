@@ -10,8 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <memory>
 #include <sstream>
 
 using namespace LagomareFuzz;
@@ -39,12 +37,19 @@ int openPermitted(sqlite3_vfs* vfs, const char* name, sqlite3_file* file, int fl
   return own->xOpen(own, name, file, flags, outFlags);
 }
 
-int limitSteps(sqlite3* connection, const char** /*error*/, const sqlite3_api_routines* /*unused*/) {
+/// The query executable takes the limit away with its own when it has checked the pages, so each query gets it anew.
+int beginStatement(unsigned /*event*/, void* connection, void* statement, void* /*sql*/) {
+  const std::string_view sql = sqlite3_sql(static_cast<sqlite3_stmt*>(statement));
+  if (sql.substr(0, 6) != "PRAGMA")
+    sqlite3_progress_handler(
+        static_cast<sqlite3*>(connection), stepsPerCall, [](void*) { return ++steps > mostSteps ? 1 : 0; }, nullptr);
+  return 0;
+}
+
+int setLimits(sqlite3* connection, const char** /*error*/, const sqlite3_api_routines* /*unused*/) {
   constexpr int longestText = 1000; // bytes
   sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, longestText);
-  sqlite3_progress_handler(
-      connection, stepsPerCall, [](void*) { return ++steps > mostSteps ? 1 : 0; }, nullptr);
-  return SQLITE_OK;
+  return sqlite3_trace_v2(connection, SQLITE_TRACE_STMT, beginStatement, connection);
 }
 
 void setUpSqlite() {
@@ -54,7 +59,7 @@ void setUpSqlite() {
   vfs.xOpen = openPermitted;
   require(sqlite3_vfs_register(&vfs, 1) == SQLITE_OK, "no file system for SQLite");
   sqlite3_hard_heap_limit64(64 << 20);
-  sqlite3_auto_extension(reinterpret_cast<void (*)()>(limitSteps));
+  sqlite3_auto_extension(reinterpret_cast<void (*)()>(setLimits));
 }
 
 struct Project {
@@ -64,21 +69,23 @@ struct Project {
   std::string lastAnswer;
 };
 
-std::string readAgain(std::FILE* stream) {
-  std::string text(static_cast<std::size_t>(std::ftell(stream)), '\0');
-  std::rewind(stream);
-  require(std::fread(text.data(), 1, text.size(), stream) == text.size(), "the answers cannot be read");
-  return text;
-}
+/// Keeps the answers instead of printing them.
+class Answers : public AnswerStream {
+public:
+  void write(std::string_view bytes) override { text_ += bytes; }
+  [[nodiscard]] const std::string& text() const { return text_; }
+
+private:
+  std::string text_;
+};
 
 std::string sessionOf(const fs::path& file, const std::string& queries) {
   steps = 0;
   permitted = file;
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::tmpfile(), std::fclose);
-  AnswerStream answers(stream.get());
+  Answers answers;
   std::istringstream lines(queries);
   require(runSession(file, lines, answers), "the session ends");
-  return readAgain(stream.get());
+  return answers.text();
 }
 
 Project makeProject(const std::string& name, const std::string& content, const std::string& query) {

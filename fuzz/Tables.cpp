@@ -86,7 +86,8 @@ Tables tablesOf(const std::string& file) {
 
 std::string missingIn(const std::string& file, const Tables& sound, std::size_t changes) {
   try {
-    const Database database = openDatabase(file);
+    Database database = openDatabase(file);
+    requireSound(database); // as a session does
     for (const auto& [query, rows] : sound)
       try {
         const Rows found = sortedRows(database, query);

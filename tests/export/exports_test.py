@@ -182,7 +182,10 @@ def check_geojson(file, document, expected):
 
     def mean(element, kind):
         values = next((serie["values"] for serie in element["series"] if serie["kind"] == kind), [])
-        return sum(values) / len(values) if values else None
+        total = 0.0
+        for value in values:  # sum() rounds otherwise since Python 3.12
+            total += value
+        return total / len(values) if values else None
 
     places = {node["id"]: position(node) for node in document["nodes"]}
     features = []

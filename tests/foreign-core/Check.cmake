@@ -15,8 +15,8 @@ foreach(kind IN ITEMS ordinary system imported)
   run(${CMAKE_COMMAND} -S ${here} -B ${BINARY}/${kind} -G ${GENERATOR} -DKIND=${kind} -DCMAKE_CXX_COMPILER=${COMPILER}
     -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DLAGOMARE_WERROR=ON)
   file(READ "${BINARY}/${kind}/compile_commands.json" commands)
-  string(REGEX MATCHALL "-(I|isystem )[^ ]+" folders "${commands}")
-  list(TRANSFORM folders REPLACE "^-(I|isystem )" "")
+  string(REGEX MATCHALL "-(I|isystem )(\\\\\"[^\"\\\\]+|[^ \"\\\\]+)" folders "${commands}") # in quotes if it has a blank
+  list(TRANSFORM folders REPLACE "^-(I|isystem )(\\\\\")?" "")
   list(REMOVE_DUPLICATES folders)
   set(cores "")
   foreach(folder IN LISTS folders)
