@@ -90,7 +90,7 @@ TEST_F(OutputsTest, ReplacesWhatALinkNamesAndKeepsItsPermissions) {
 TEST_F(OutputsTest, WritesIntoAPipeThatALinkNames) {
   if (!fs::is_symlink("/dev/stdout") || !fs::exists("/dev/stdout"))
     GTEST_SKIP() << "this system has no link /dev/stdout";
-  const std::string command = std::string(LAGOMARE) + " import basin.db --no-check --quiet --json /dev/stdout | cat";
+  const std::string command = "'" LAGOMARE "' import basin.db --no-check --quiet --json /dev/stdout | cat";
   EXPECT_THAT(run({"/bin/sh", "-c", command}).out, HasSubstr("lagomare-scenario"));
 }
 
