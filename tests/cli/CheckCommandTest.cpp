@@ -47,6 +47,8 @@ TEST_F(CheckCommandTest, EndsByWhatItFound) {
   EXPECT_EQ(check({"basin.db", "--strict"}).exitCode, 1);
   EXPECT_EQ(check({"basin.db", "--format", "xml"}).exitCode, 2);
   EXPECT_EQ(check({}).exitCode, 2);
+  EXPECT_THAT(check({"basin.db", "--dialect", "2010"}).out,
+              AllOf(StartsWith("basin.db (dialect 2010): 1 error, "), HasSubstr("but the table Tk_Gerais of ")));
   EXPECT_THAT(check({"none.db"}).err, HasSubstr("none.db: No such file"));
   writeFile("basin.ldb", "");
   EXPECT_THAT(check({"basin.db"}).out, HasSubstr("there is basin.ldb"));
@@ -70,6 +72,9 @@ TEST_F(CheckCommandTest, ComesBeforeAnImport) {
                                 EndsWith("; lagomare check basin.db lists them\n")));
   project("with recursive n(i) as (select 5 union all select i + 1 from n limit 12)"
           "insert into Tk_Lnk_FEA select i, '', 1, 90, 0, 0 from n; update Tk_Gerais set TipoSimul = ''");
+  std::filesystem::copy_file("basin.db", "São Chico's.db");
+  EXPECT_THAT(import({"--utm-zone", "24k", "São Chico's.db", "--dialect=2013"}).err,
+              EndsWith("see lagomare check --dialect 2013 --utm-zone 24S 'São Chico'\\''s.db'\n"));
   const Ending failed = import({"basin.db", "--json", "other.json"});
   EXPECT_EQ(failed.exitCode, 1);
   EXPECT_THAT(failed.err, StartsWith("lagomare: not-a-number: Tk_Gerais, row 1, column TipoSimul: an empty field"));

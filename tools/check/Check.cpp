@@ -77,6 +77,30 @@ void checkTable(Inspection& inspection, const LegacyTable& table) {
   }
 }
 
+/// A project of the other dialect lacks nearly every table of this one. Then one fault says all.
+bool isOfOtherDialect(Inspection& inspection) {
+  const char* const wanted = inspection.schema.tables.front().name;
+  const Dialect other = inspection.dialect == Dialect::of2010 ? Dialect::of2013 : Dialect::of2010;
+  const char* const held = schemaOf(other).tables.front().name;
+  if (!inspection.listing || findTable(*inspection.listing, wanted) != nullptr ||
+      findTable(*inspection.listing, held) == nullptr)
+    return false;
+  inspection.findings.add(Code::tableMissing, Place{wanted}, [&] {
+    return fmt::format("there is no table {}, but the table {} of the dialect {}", wanted, held, nameOf(other));
+  });
+  return true;
+}
+
+void checkTables(Inspection& inspection, const CheckProgress& progress) {
+  std::size_t tablesDone = 0;
+  for (const LegacyTable& table : inspection.schema.tables) {
+    if (progress)
+      progress(tablesDone++, inspection.schema.tables.size());
+    checkTable(inspection, table);
+  }
+  checkNetwork(inspection);
+}
+
 CheckResult resultOf(Inspection& inspection) {
   CheckResult result{inspection.dialect, inspection.prospect, inspection.findings.sorted(),
                      std::move(inspection.counts), std::nullopt};
@@ -93,13 +117,8 @@ CheckResult checkProject(Lagomare::QuerySource& source, Dialect dialect, const s
                          const CheckProgress& progress) {
   const Schema& schema = schemaOf(dialect);
   Inspection inspection{source, dialect, schema, listTables(source), {}, {}, {}, {}, {}};
-  std::size_t tablesDone = 0;
-  for (const LegacyTable& table : schema.tables) {
-    if (progress)
-      progress(tablesDone++, schema.tables.size());
-    checkTable(inspection, table);
-  }
-  checkNetwork(inspection);
+  if (!isOfOtherDialect(inspection))
+    checkTables(inspection, progress);
   if (!lockFile.empty())
     inspection.findings.add(Code::lockFile, {}, [&] { return "there is " + lockFile; });
   return resultOf(inspection);

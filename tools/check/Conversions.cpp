@@ -27,7 +27,7 @@ void reportCut(TableRows& rows, std::size_t column, std::string_view text, std::
     return;
   rows.add(
       Code::numberCut, rows.place(column),
-      [&] { return quoted(text) + " comes in as " + std::string(text.substr(0, length)); }, hashOf(text));
+      [&] { return quoted(text) + " comes in as " + excerpt(std::string(text.substr(0, length))); }, hashOf(text));
 }
 
 std::optional<std::string_view> fieldOf(TableRows& rows, std::size_t column) {

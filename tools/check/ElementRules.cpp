@@ -1,3 +1,4 @@
+#include "access/Numbers.h"
 #include "tools/check/Conversions.h"
 #include "tools/check/Rules.h"
 #include "tools/check/TwoWayPairs.h"
@@ -36,6 +37,13 @@ void reportRepeated(TableRows& rows, const ElementRow& first) {
   rows.add(Code::repeatedId, rows.place(), [&] { return described(first) + " has the same id, and its row counts"; });
 }
 
+void reportWrapped(TableRows& rows, std::uint32_t id) {
+  constexpr std::size_t idColumn = 0;
+  if (rows.at(idColumn)->find('-') < Lagomare::lengthOfUnsigned(*rows.at(idColumn)) && id != 0)
+    rows.add(Code::idWrapped, rows.place(idColumn),
+             [&] { return quoted(*rows.at(idColumn)) + " comes in as " + std::to_string(id); });
+}
+
 std::optional<double> numberOf(TableRows& rows, Meaning meaning) {
   const std::size_t column = rows.table().columnOf(meaning);
   return column < rows.table().columns.size() ? readNumber(rows, column) : std::nullopt;
@@ -66,6 +74,7 @@ void readNode(TableRows& rows, Elements& elements) {
     return rows.add(Code::idOfTwoNodes, rows.place(),
                     [&] { return std::string("a ") + nameOf(*kind) + " has the id of " + described(known->second); });
   rows.take();
+  reportWrapped(rows, *id);
   known->second.utmX = numberOf(rows, Meaning::easting);
   known->second.utmY = numberOf(rows, Meaning::northing);
   readReservoir(rows, *id, elements);
@@ -82,6 +91,7 @@ void readLink(TableRows& rows, std::map<std::uint32_t, LinkRow>& links) {
   if (!isNew)
     return reportRepeated(rows, known->second);
   rows.take();
+  reportWrapped(rows, *id);
   known->second.upstream = readWhole(rows, table.columnOf(Meaning::upstream));
   known->second.downstream = readWhole(rows, table.columnOf(Meaning::downstream));
   if (const auto loss = numberOf(rows, Meaning::loss))

@@ -30,6 +30,8 @@ void checkPosition(Findings& findings, std::uint32_t id, const NodeRow& node) {
                         latitude <= 84.0 + margin && *node.utmY >= 0.0 && *node.utmY <= mostNorthing;
   if (!isInside)
     findings.add(Code::positionOutsideZone, placeOf(node, id), [&, x = longitude, y = latitude] {
+      if (!std::isfinite(x) || !std::isfinite(y))
+        return std::string("no longitude and latitude can be computed from it; the outputs have none for it");
       return fmt::format("longitude {:.3f}, latitude {:.3f}; the zone reaches from {:.0f} to {:.0f} degrees{}", x, y,
                          central - halfZone, central + halfZone, suspicion(*node.utmX, *node.utmY));
     });

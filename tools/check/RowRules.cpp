@@ -13,8 +13,12 @@ namespace LagomareTools {
 
 namespace {
 
-std::string numberText(double value) {
-  return std::isfinite(value) ? std::string(NumberText(value).view()) : "what is no number";
+std::string rangeText(double from, double to) {
+  return "from " + std::string(NumberText(from).view()) + " to " + std::string(NumberText(to).view());
+}
+
+bool areFinite(std::initializer_list<double> values) {
+  return std::all_of(values.begin(), values.end(), [](double value) { return std::isfinite(value); });
 }
 
 /// The first row of each id counts; of a limit, the first one of state 1.
@@ -134,12 +138,14 @@ private:
     const auto volumes = inspection_.elements.volumes.find(id);
     const Curve& curve = curves_[slot->index];
     place.row.reset();
-    if (curve.last && volumes != inspection_.elements.volumes.end() &&
-        (curve.leastVolume > volumes->second.minimum || curve.mostVolume < volumes->second.maximum))
-      rows_.add(Code::curveNotCovering, place, [&] {
-        return "it reaches from " + numberText(curve.leastVolume) + " to " + numberText(curve.mostVolume) +
-               " hm³, the reservoir from " + numberText(volumes->second.minimum) + " to " +
-               numberText(volumes->second.maximum) + " hm³";
+    if (!curve.last || volumes == inspection_.elements.volumes.end())
+      return;
+    const auto& [maximum, minimum, initial] = volumes->second;
+    if (areFinite({curve.leastVolume, curve.mostVolume, minimum, maximum}) &&
+        (curve.leastVolume > minimum || curve.mostVolume < maximum))
+      rows_.add(Code::curveNotCovering, place, [&, from = minimum, to = maximum] {
+        return "it reaches " + rangeText(curve.leastVolume, curve.mostVolume) + " hm³, the reservoir " +
+               rangeText(from, to) + " hm³";
       });
   }
 

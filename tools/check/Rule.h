@@ -42,6 +42,7 @@ enum class Code {
   tooFewRows,
   elementWithoutRows,
   numberCut,
+  idWrapped,
   priorityTruncated,
   columnRenamed,
   lockFile,

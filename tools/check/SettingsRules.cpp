@@ -136,7 +136,7 @@ void SettingsRules::readPeriod() {
     isPeriodGood_ = true;
   } catch (const std::invalid_argument&) {
     rows_.add(Code::periodTooLong, rows_.place(column),
-              [&] { return "a duration of " + std::to_string(*duration) + " years leads past the year 9999"; });
+              [&] { return "a duration of " + quoted(*rows_.at(column)) + " years leads past the year 9999"; });
   }
 }
 

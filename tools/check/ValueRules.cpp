@@ -55,7 +55,7 @@ std::optional<Volumes> readVolumes(TableRows& rows) {
     return std::nullopt;
   if (!(*minimum <= *initial && *initial <= *maximum))
     rows.add(Code::volumesOutOfOrder, rows.place(), [&] {
-      const auto text = [&rows](Meaning meaning) { return oneLine(*rows.at(rows.table().columnOf(meaning))); };
+      const auto text = [&rows](Meaning meaning) { return excerpt(oneLine(*rows.at(rows.table().columnOf(meaning)))); };
       return "minimum " + text(Meaning::minimumVolume) + ", initial " + text(Meaning::initialVolume) + ", maximum " +
              text(Meaning::maximumVolume);
     });

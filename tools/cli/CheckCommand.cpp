@@ -37,10 +37,31 @@ void printErrors(const CheckResult& result) {
   }
 }
 
-std::string errorsText(const CheckResult& result, const std::string& project) {
-  const std::size_t errors = result.count(Severity::error);
-  return fmt::format("{}: {} error{}, nothing is imported; see lagomare check {}", project, errors,
-                     errors == 1 ? "" : "s", project);
+/// A word of a command line, as a shell takes it.
+std::string shellWord(const std::string& text) {
+  constexpr const char* harmless = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789./_+,:@%=-";
+  if (text.find_first_not_of(harmless) == std::string::npos)
+    return text;
+  std::string word = "'";
+  for (const char character : text)
+    word += character == '\'' ? "'\\''" : std::string(1, character);
+  return word + '\'';
+}
+
+/// The call that lists the faults of a project that is read with these options.
+std::string checkCall(const ProjectOptions& options) {
+  std::string call = "lagomare check ";
+  if (options.dialect)
+    call += std::string("--dialect ") + nameOf(*options.dialect) + ' ';
+  if (options.queryExecutable)
+    call += "--query-executable " + shellWord(*options.queryExecutable) + ' ';
+  if (options.utmZone)
+    call += "--utm-zone " + textOf(*options.utmZone) + ' ';
+  return call + (options.project.front() == '-' ? "-- " : "") + shellWord(options.project);
+}
+
+std::string counted(std::size_t count, const char* what) {
+  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
 }
 
 } // namespace
@@ -62,14 +83,14 @@ CheckResult checkBeforeImport(const Project& project, bool isQuiet) {
   CheckResult result = checkWithProgress(project, "", isQuiet);
   if (result.prospect == Prospect::failed) {
     printErrors(result);
-    throw Failure(errorsText(result, project.name()));
+    throw Failure(fmt::format("{}: {}, nothing is imported; see {}", project.name(),
+                              counted(result.count(Severity::error), "error"), checkCall(project.options())));
   }
   if (result.prospect == Prospect::imported && result.count(Severity::warning) > 0)
     printWarning(
-        fmt::format("{0}: {1} warning{2}; rows not taken: {3}, rows that come in otherwise than they are meant: "
-                    "{4}; lagomare check {0} lists them",
-                    project.name(), result.count(Severity::warning), result.count(Severity::warning) == 1 ? "" : "s",
-                    result.numOfRowsNotTaken(), result.numOfRowsTakenOtherwise()));
+        fmt::format("{}: {}; rows not taken: {}, rows that come in otherwise than they are meant: {}; {} lists them",
+                    project.name(), counted(result.count(Severity::warning), "warning"), result.numOfRowsNotTaken(),
+                    result.numOfRowsTakenOtherwise(), checkCall(project.options())));
   return result;
 }
 

@@ -30,17 +30,18 @@ int runCommand(const Options& options) {
 } // namespace
 
 int main(int argumentCount, char** arguments) {
+  const std::string command = argumentCount > 1 && arguments[1] == std::string("check") ? "check" : "import";
   prepareStandardStreams();
   try {
     const Interruption interruption;
     return runCommand(parseOptions(argumentCount, arguments));
   } catch (const Interrupted&) {
-    std::fputs("lagomare: cancelled; the outputs are as they were\n", stderr);
+    std::fputs(command == "check" ? "lagomare: cancelled\n" : "lagomare: cancelled; the outputs are as they were\n",
+               stderr);
     return Interruption::exitCode;
   } catch (const ReaderHasGone&) {
     endAsReaderHasGone();
   } catch (const UsageError& error) {
-    const std::string command = argumentCount > 1 && arguments[1] == std::string("check") ? "check" : "import";
     printError(std::string(error.what()) + " (see lagomare " + command + " --help)");
     return usageError;
   } catch (const std::bad_alloc&) {

@@ -31,7 +31,9 @@ Exit codes: 0 no error (with --strict: no warning either), 1 there are, 2 usage 
 // What follows returns why a text is no such value, or an empty string if it is one.
 
 std::string checkZone(const std::string& text) {
-  return parseZone(text) ? "" : "\"" + text + "\" is no UTM zone: 1 to 60 followed by N or S, such as 23S";
+  return parseZone(text)
+             ? ""
+             : "\"" + text + "\" is no UTM zone: 1 to 60 followed by N, S or a latitude band, such as 23S or 23K";
 }
 
 std::string checkPath(const std::string& text) { return text.empty() ? "the path is empty" : ""; }
@@ -67,7 +69,7 @@ CLI::Option* addProject(CLI::App& command, ProjectOptions& options) {
   command
       .add_option_function<std::string>(
           "--utm-zone", [&options](const std::string& text) { options.utmZone = parseZone(text); },
-          "UTM zone of the project's coordinates, 1 to 60 followed by N or S (default: 23S)")
+          "UTM zone of the project's coordinates: 1 to 60, then N, S or a latitude band (default: 23S)")
       ->type_name("ZONE")
       ->check(checkZone);
   return command.add_option("PROJECT", options.project, "The legacy project's database")

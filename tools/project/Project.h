@@ -18,6 +18,8 @@ public:
   /// one of these cannot be done, and Interrupted.
   explicit Project(const ProjectOptions& options);
 
+  /// As they were given.
+  [[nodiscard]] const ProjectOptions& options() const { return options_; }
   /// The project's path as the user wrote it, for messages.
   [[nodiscard]] const std::string& name() const { return options_.project; }
   /// Absolute, symbolic links resolved.
