@@ -36,18 +36,18 @@ void requireEqual(const Setting& setting) {
 double clockSeconds(const std::vector<std::string>& command) { return runCommand(command, "log.txt").clockSeconds; }
 
 /// What a user waits for.
-void addCommands(Table& table, const Setting& setting, Work& import) {
-  import.add("ours", 1, [&setting] { return clockSeconds(importCommand(setting, database));
-});
-import.aimAtMost("ours", "floor", 0.9);
-Work& check = table.add("`lagomare check` of the same, wall clock (floor: `lagomare import --no-check`)", wholeSeconds);
-check.add("ours", 1, [&setting] { return clockSeconds(checkCommand(setting, database)); });
-check.add("floor", 1, [&setting] { return clockSeconds(importCommand(setting, database)); });
-if (setting.isLarge)
-  check.aimAtMost("ours", "floor", 0.6);
-} // namespace
+void addCommands(Table& table, const Setting& setting, Work& clock) {
+  clock.add("ours", 1, [&setting] { return clockSeconds(importCommand(setting, database)); });
+  clock.aimAtMost("ours", "floor", 0.9);
+  Work& check =
+      table.add("`lagomare check` of the same, wall clock (floor: `lagomare import --no-check`)", wholeSeconds);
+  check.add("ours", 1, [&setting] { return clockSeconds(checkCommand(setting, database)); });
+  check.add("floor", 1, [&setting] { return clockSeconds(importCommand(setting, database)); });
+  if (setting.isLarge)
+    check.aimAtMost("ours", "floor", 0.6);
+}
 
-} // namespace LagomareBench
+} // namespace
 
 void addImportBenches(Table& table, const Setting& setting) {
   const BasinSize size = setting.isLarge ? BasinSize{5000, 100, 3} : BasinSize{1250, 60, 3};
@@ -64,7 +64,8 @@ void addImportBenches(Table& table, const Setting& setting) {
        {std::pair("plain", "plain"), std::pair("ours", "ours"), std::pair("floor", "in-process")})
     time.add(contender, 1, [&setting, &memory, &clock, contender = contender, way = way] {
       const Outcome outcome = importOnce(setting, way);
-      memory.record(contender, outcome.peakBytes);
+      if (std::string_view(contender) != "plain") // a process that starts others late passes its own peak on to them
+        memory.record(contender, outcome.peakBytes);
       if (std::string_view(contender) == "floor")
         clock.record(contender, outcome.clockSeconds);
       return outcome.processorSeconds;
