@@ -96,22 +96,22 @@ public:
 // Constants at namespace scope: every translation unit has its own, so they are ready before anything else
 // that the unit initialises. The generic kinds 1 and 9 belong to no group of types.
 
-const std::set<ElementType> reservoirAndDemandTypes{ElementType::Reservoir,         ElementType::HumanDemand,
-                                                    ElementType::AnimalDemand,      ElementType::IndustrialDemand,
-                                                    ElementType::AgricultureDemand, ElementType::DrainDemand};
-const std::set<ElementType> demandTypes{ElementType::HumanDemand, ElementType::AnimalDemand,
-                                        ElementType::IndustrialDemand, ElementType::AgricultureDemand,
-                                        ElementType::DrainDemand};
-const std::set<ElementType> consumptiveDemandTypes{ElementType::HumanDemand, ElementType::AnimalDemand,
-                                                   ElementType::IndustrialDemand, ElementType::AgricultureDemand};
-const std::set<ElementType> reservoirTypes{ElementType::Reservoir};
-const std::set<ElementType> junctionTypes{ElementType::Junction};
-const std::set<ElementType> basinTypes{ElementType::Basin};
-const std::set<ElementType> nodeTypes{
+inline const std::set<ElementType> reservoirAndDemandTypes{
+    ElementType::Reservoir,        ElementType::HumanDemand,       ElementType::AnimalDemand,
+    ElementType::IndustrialDemand, ElementType::AgricultureDemand, ElementType::DrainDemand};
+inline const std::set<ElementType> demandTypes{ElementType::HumanDemand, ElementType::AnimalDemand,
+                                               ElementType::IndustrialDemand, ElementType::AgricultureDemand,
+                                               ElementType::DrainDemand};
+inline const std::set<ElementType> consumptiveDemandTypes{
+    ElementType::HumanDemand, ElementType::AnimalDemand, ElementType::IndustrialDemand, ElementType::AgricultureDemand};
+inline const std::set<ElementType> reservoirTypes{ElementType::Reservoir};
+inline const std::set<ElementType> junctionTypes{ElementType::Junction};
+inline const std::set<ElementType> basinTypes{ElementType::Basin};
+inline const std::set<ElementType> nodeTypes{
     ElementType::HumanDemand, ElementType::AnimalDemand, ElementType::IndustrialDemand, ElementType::AgricultureDemand,
     ElementType::DrainDemand, ElementType::Reservoir,    ElementType::Junction,         ElementType::Basin};
-const std::set<ElementType> linkTypes{ElementType::ArtificialLink, ElementType::NaturalLink};
-const std::set<ElementType> allElementTypes{
+inline const std::set<ElementType> linkTypes{ElementType::ArtificialLink, ElementType::NaturalLink};
+inline const std::set<ElementType> allElementTypes{
     ElementType::HumanDemand, ElementType::AnimalDemand, ElementType::IndustrialDemand, ElementType::AgricultureDemand,
     ElementType::DrainDemand, ElementType::Reservoir,    ElementType::Junction,         ElementType::ArtificialLink,
     ElementType::NaturalLink, ElementType::Basin};
@@ -119,31 +119,32 @@ const std::set<ElementType> allElementTypes{
 /// Values ordered by their addresses: the order of iteration carries no meaning.
 using ElementKindValues = std::set<std::shared_ptr<EnumElementType>>;
 
-const ElementKindValues concreteKindValues{
+inline const ElementKindValues concreteKindValues{
     std::make_shared<ReservoirType>(),         std::make_shared<AnimalDemandType>(),
     std::make_shared<HumanDemandType>(),       std::make_shared<IndustrialDemandType>(),
     std::make_shared<AgricultureDemandType>(), std::make_shared<DrainDemandType>(),
     std::make_shared<ArtificialLinkType>(),    std::make_shared<NaturalLinkType>(),
     std::make_shared<JunctionType>(),          std::make_shared<BasinType>()};
 /// The same ten kinds, as values of their own.
-const ElementKindValues concreteKindValuesCopy{
+inline const ElementKindValues concreteKindValuesCopy{
     std::make_shared<ReservoirType>(),         std::make_shared<AnimalDemandType>(),
     std::make_shared<HumanDemandType>(),       std::make_shared<IndustrialDemandType>(),
     std::make_shared<AgricultureDemandType>(), std::make_shared<DrainDemandType>(),
     std::make_shared<ArtificialLinkType>(),    std::make_shared<NaturalLinkType>(),
     std::make_shared<JunctionType>(),          std::make_shared<BasinType>()};
-const ElementKindValues linkKindValues{std::make_shared<ArtificialLinkType>(), std::make_shared<NaturalLinkType>()};
-const ElementKindValues genericKindValues{std::make_shared<ReservoirType>(), std::make_shared<DemandType>(),
-                                          std::make_shared<LinkType>(), std::make_shared<JunctionType>()};
-const ElementKindValues allKindValues{std::make_shared<ReservoirType>(),
-                                      std::make_shared<DemandType>(),
-                                      std::make_shared<AnimalDemandType>(),
-                                      std::make_shared<HumanDemandType>(),
-                                      std::make_shared<IndustrialDemandType>(),
-                                      std::make_shared<AgricultureDemandType>(),
-                                      std::make_shared<DrainDemandType>(),
-                                      std::make_shared<JunctionType>(),
-                                      std::make_shared<BasinType>(),
-                                      std::make_shared<LinkType>(),
-                                      std::make_shared<ArtificialLinkType>(),
-                                      std::make_shared<NaturalLinkType>()};
+inline const ElementKindValues linkKindValues{std::make_shared<ArtificialLinkType>(),
+                                              std::make_shared<NaturalLinkType>()};
+inline const ElementKindValues genericKindValues{std::make_shared<ReservoirType>(), std::make_shared<DemandType>(),
+                                                 std::make_shared<LinkType>(), std::make_shared<JunctionType>()};
+inline const ElementKindValues allKindValues{std::make_shared<ReservoirType>(),
+                                             std::make_shared<DemandType>(),
+                                             std::make_shared<AnimalDemandType>(),
+                                             std::make_shared<HumanDemandType>(),
+                                             std::make_shared<IndustrialDemandType>(),
+                                             std::make_shared<AgricultureDemandType>(),
+                                             std::make_shared<DrainDemandType>(),
+                                             std::make_shared<JunctionType>(),
+                                             std::make_shared<BasinType>(),
+                                             std::make_shared<LinkType>(),
+                                             std::make_shared<ArtificialLinkType>(),
+                                             std::make_shared<NaturalLinkType>()};

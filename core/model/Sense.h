@@ -17,7 +17,7 @@ public:
   InvertedSenseType() : Enum(static_cast<std::int32_t>(Sense::Inverted), "Invertido") {}
 };
 
-const std::map<Sense, Enum<Sense>> sensesByType{{Sense::Original, OriginalSenseType()},
-                                                {Sense::Inverted, InvertedSenseType()}};
-const std::map<std::string, Enum<Sense>> sensesByName{{OriginalSenseType().name, OriginalSenseType()},
-                                                      {InvertedSenseType().name, InvertedSenseType()}};
+inline const std::map<Sense, Enum<Sense>> sensesByType{{Sense::Original, OriginalSenseType()},
+                                                       {Sense::Inverted, InvertedSenseType()}};
+inline const std::map<std::string, Enum<Sense>> sensesByName{{OriginalSenseType().name, OriginalSenseType()},
+                                                             {InvertedSenseType().name, InvertedSenseType()}};

@@ -113,23 +113,23 @@ public:
 };
 
 /// Seventeen values, ordered by their addresses. Each translation unit has its own set.
-const std::set<std::shared_ptr<Enum<Unit>>> unitValues{std::make_shared<Dimensionless>(),
-                                                       std::make_shared<H>(),
-                                                       std::make_shared<HD>(),
-                                                       std::make_shared<M3S>(),
-                                                       std::make_shared<HM3>(),
-                                                       std::make_shared<MM>(),
-                                                       std::make_shared<M>(),
-                                                       std::make_shared<M3>(),
-                                                       std::make_shared<KM2>(),
-                                                       std::make_shared<RS>(),
-                                                       std::make_shared<Perc>(),
-                                                       std::make_shared<CM>(),
-                                                       std::make_shared<CDegree>(),
-                                                       std::make_shared<MG>(),
-                                                       std::make_shared<KG>(),
-                                                       std::make_shared<Liters>(),
-                                                       std::make_shared<LitersBySeconds>()};
+inline const std::set<std::shared_ptr<Enum<Unit>>> unitValues{std::make_shared<Dimensionless>(),
+                                                              std::make_shared<H>(),
+                                                              std::make_shared<HD>(),
+                                                              std::make_shared<M3S>(),
+                                                              std::make_shared<HM3>(),
+                                                              std::make_shared<MM>(),
+                                                              std::make_shared<M>(),
+                                                              std::make_shared<M3>(),
+                                                              std::make_shared<KM2>(),
+                                                              std::make_shared<RS>(),
+                                                              std::make_shared<Perc>(),
+                                                              std::make_shared<CM>(),
+                                                              std::make_shared<CDegree>(),
+                                                              std::make_shared<MG>(),
+                                                              std::make_shared<KG>(),
+                                                              std::make_shared<Liters>(),
+                                                              std::make_shared<LitersBySeconds>()};
 
 /// "Vazão liberada(m³/s)"
-const std::string releaseLabel = Release().name + "(" + M3S().name + ")";
+inline const std::string releaseLabel = Release().name + "(" + M3S().name + ")";
