@@ -2,7 +2,9 @@
 #include "bench/Benches.h"
 #include "bench/Child.h"
 #include "bench/Sqlite.h"
+#include "bench/Table.h"
 #include "tools/query/Database.h"
+#include "tools/query/sqlite/Sqlite.h"
 
 #include <cstdint>
 #include <cstring>
@@ -11,6 +13,8 @@
 #include <iterator>
 #include <sstream>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace LagomareBench {
 
@@ -167,9 +171,8 @@ void addImport(Table& table, const Setting& setting) {
                          wholeSeconds);
   work.setCheck([&setting] { requireEqualScenarios(setting); });
   for (const auto& [contender, project] : {std::pair("ours", accessProject), std::pair("floor", sqliteProject)})
-    work.add(contender, 1, [&setting, project = project] {
-      return runCommand(importCommand(setting, project), "log.txt").clockSeconds;
-    });
+    work.add(contender, 1,
+             [&setting, file = project] { return runCommand(importCommand(setting, file), "log.txt").clockSeconds; });
   work.aimAtMost("ours", "floor", 1.3);
 }
 

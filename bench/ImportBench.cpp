@@ -1,9 +1,15 @@
 #include "bench/Basin.h"
 #include "bench/Benches.h"
 #include "bench/Child.h"
+#include "bench/Table.h"
 
+#include <cstdint>
 #include <fstream>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace LagomareBench {
 
@@ -62,12 +68,12 @@ void addImportBenches(Table& table, const Setting& setting) {
   time.setCheck([&setting] { requireEqual(setting); });
   for (const auto& [contender, way] :
        {std::pair("plain", "plain"), std::pair("ours", "ours"), std::pair("floor", "in-process")})
-    time.add(contender, 1, [&setting, &memory, &clock, contender = contender, way = way] {
-      const Outcome outcome = importOnce(setting, way);
-      if (std::string_view(contender) != "plain") // a process that starts others late passes its own peak on to them
-        memory.record(contender, outcome.peakBytes);
-      if (std::string_view(contender) == "floor")
-        clock.record(contender, outcome.clockSeconds);
+    time.add(contender, 1, [&setting, &memory, &clock, name = contender, mode = way] {
+      const Outcome outcome = importOnce(setting, mode);
+      if (std::string_view(name) != "plain") // a process that starts others late passes its own peak on to them
+        memory.record(name, outcome.peakBytes);
+      if (std::string_view(name) == "floor")
+        clock.record(name, outcome.clockSeconds);
       return outcome.processorSeconds;
     });
   time.aimAtLeast("plain", "ours", 2.4).aimAtMost("ours", "floor", 1.7);

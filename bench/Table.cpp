@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 #include <iomanip>
 #include <iostream>
 #include <sstream>
@@ -15,6 +16,7 @@ struct Contender {
   std::string name;
   double items;
   bool isManual;
+  std::string failure = {}; ///< the last message, if one round failed
 };
 
 /// By the name under which it is registered.
@@ -49,40 +51,37 @@ public:
   bool ReportContext(const Context& /*machine*/) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs)
-      if (run.error_occurred)
-        failures_[run.run_name.function_name] = run.error_message;
-      else
-        record(run);
+      record(run);
   }
-
-  [[nodiscard]] const std::map<std::string, std::string>& failures() const { return failures_; }
 
 private:
   static void record(const Run& run) {
     const Contender& contender = contenders().at(run.run_name.function_name);
+    if (!contender.failure.empty())
+      return;
     const double time = contender.isManual ? run.real_accumulated_time : run.cpu_accumulated_time;
     contender.work->record(contender.name, time / static_cast<double>(run.iterations) / contender.items);
   }
-
-  std::map<std::string, std::string> failures_; ///< the last message of each benchmark
 };
 
 } // namespace
 
 void Work::add(const std::string& contender, double items, std::function<double()> cost) {
-  const auto body = [this, cost = std::move(cost)](benchmark::State& state) {
-    runChecked(state, [&] { state.SetIterationTime(cost()); });
+  const std::string name = name_ + " / " + contender;
+  const auto body = [this, name, cost = std::move(cost)](benchmark::State& state) {
+    runChecked(state, name, [&] { state.SetIterationTime(cost()); });
   };
-  enlist(name_ + " / " + contender, {this, contender, items, true}, body)->Iterations(1)->UseManualTime();
+  enlist(name, {this, contender, items, true}, body)->Iterations(1)->UseManualTime();
 }
 
 void Work::addLoop(const std::string& contender, double items, std::function<void()> work) {
   constexpr double enoughSeconds = 0.05;
-  const auto body = [this, work = std::move(work)](benchmark::State& state) { runChecked(state, work); };
-  enlist(name_ + " / " + contender, {this, contender, items, false}, body)->MinTime(enoughSeconds);
+  const std::string name = name_ + " / " + contender;
+  const auto body = [this, name, work = std::move(work)](benchmark::State& state) { runChecked(state, name, work); };
+  enlist(name, {this, contender, items, false}, body)->MinTime(enoughSeconds);
 }
 
-void Work::runChecked(benchmark::State& state, const std::function<void()>& body) {
+void Work::runChecked(benchmark::State& state, const std::string& name, const std::function<void()>& body) {
   try {
     if (check_) // once, but for one that fails
       check_();
@@ -90,6 +89,7 @@ void Work::runChecked(benchmark::State& state, const std::function<void()>& body
     for ([[maybe_unused]] auto _ : state)
       body();
   } catch (const std::exception& error) {
+    contenders().at(name).failure = error.what();
     state.SkipWithError(error.what());
   }
 }
@@ -154,9 +154,14 @@ bool runRounds(int rounds) {
     std::cerr << "round " << round << " of " << rounds << '\n';
     benchmark::RunSpecifiedBenchmarks(&recorder);
   }
-  for (const auto& [name, message] : recorder.failures())
-    std::cerr << name << ": " << message << '\n';
-  return recorder.failures().empty();
+  bool isSound = true;
+  for (const auto& [name, contender] : contenders()) {
+    if (contender.failure.empty())
+      continue;
+    std::cerr << name << ": " << contender.failure << '\n';
+    isSound = false;
+  }
+  return isSound;
 }
 
 } // namespace LagomareBench

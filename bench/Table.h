@@ -6,6 +6,7 @@
 #include <map>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace LagomareBench {
@@ -56,7 +57,7 @@ public:
   void print(std::ostream& out, const std::vector<std::string>& columns) const;
 
 private:
-  void runChecked(benchmark::State& state, const std::function<void()>& body);
+  void runChecked(benchmark::State& state, const std::string& name, const std::function<void()>& body);
   [[nodiscard]] bool isMeasured(const Aim& aim) const;
   [[nodiscard]] double value(const Aim& aim) const;
   void printAim(std::ostream& out, const Aim& aim) const;
