@@ -3,7 +3,12 @@
 #include "access/FieldError.h"
 #include "access/LineReader.h"
 #include "access/Numbers.h"
+#include "access/ValueColumn.h"
 
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace Lagomare {

@@ -1,5 +1,7 @@
 #include "access/FieldError.h"
 
+#include <utility>
+
 namespace Lagomare {
 
 FieldError::FieldError(std::optional<std::string> text) : text_(std::move(text)) {}

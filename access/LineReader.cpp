@@ -1,6 +1,7 @@
 #include "access/LineReader.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace Lagomare {
 

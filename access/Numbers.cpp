@@ -6,6 +6,7 @@
 #include <cfloat>
 #include <charconv>
 #include <limits>
+#include <string>
 #include <system_error>
 
 namespace Lagomare {

@@ -6,6 +6,8 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <string_view>
+#include <utility>
 
 namespace LagomareBench {
 

@@ -3,6 +3,8 @@
 #include "bench/Table.h"
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace LagomareBench {
 

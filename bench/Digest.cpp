@@ -1,9 +1,14 @@
 #include "bench/Digest.h"
 
 #include "model/Calendar.h"
+#include "model/Date.h"
+#include "model/Element.h"
+#include "model/Interval.h"
 #include "model/Link.h"
 #include "model/PriorityReservoirSettings.h"
+#include "model/PrioritySettings.h"
 #include "model/Reservoir.h"
+#include "model/Serie.h"
 
 #include <cstring>
 

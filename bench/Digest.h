@@ -1,10 +1,13 @@
 #pragma once
 
 #include "bench/plain/PlainImport.h"
+#include "model/ElementType.h"
 #include "model/Scenario.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace LagomareBench {
 

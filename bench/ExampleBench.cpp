@@ -1,15 +1,24 @@
 #include "access/LagomareProjectManager.h"
+#include "access/QuerySource.h"
 #include "bench/Benches.h"
 #include "bench/Child.h"
 #include "bench/Sqlite.h"
+#include "bench/Table.h"
 #include "bench/plain/PlainRows.h"
 #include "loader/LagomareProjectLoader.h"
 #include "tools/project/Project.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
+#include <memory>
 #include <sstream>
 #include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace LagomareBench {
 

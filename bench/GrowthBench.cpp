@@ -3,18 +3,26 @@
 #include "bench/Basin.h"
 #include "bench/Benches.h"
 #include "bench/Child.h"
+#include "bench/Table.h"
 #include "loader/LagomareProjectLoader.h"
 #include "model/CoreServiceManager.h"
 #include "model/ElementFactory.h"
+#include "model/ElementType.h"
 #include "model/ExecutionContinuous.h"
 #include "model/Link.h"
 #include "model/Node.h"
 #include "model/PriorityScenario.h"
 #include "tools/project/Import.h"
+#include "tools/project/Project.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
+#include <functional>
+#include <memory>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace LagomareBench {
 

@@ -6,10 +6,17 @@
 #include "bench/Digest.h"
 #include "bench/plain/InProcess.h"
 #include "bench/plain/PlainChannel.h"
+#include "bench/plain/PlainImport.h"
+#include "model/Scenario.h"
 #include "tools/project/Import.h"
+#include "tools/project/Project.h"
 
 #include <chrono>
+#include <cstdint>
+#include <exception>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <sys/resource.h>
 #include <unistd.h>
 

@@ -1,14 +1,22 @@
 #include "access/Numbers.h"
 #include "bench/Benches.h"
+#include "bench/Table.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstdio>
 #include <cstring>
+#include <functional>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <random>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace LagomareBench {
 

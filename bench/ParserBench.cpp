@@ -1,11 +1,16 @@
 #include "access/Answer.h"
+#include "access/QueryResult.h"
 #include "bench/Answers.h"
 #include "bench/Benches.h"
 #include "bench/Child.h"
+#include "bench/Table.h"
 #include "bench/plain/PlainRows.h"
 
+#include <cstdint>
 #include <fstream>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace LagomareBench {
 

@@ -2,12 +2,15 @@
 #include "bench/Benches.h"
 #include "bench/Child.h"
 #include "bench/Sqlite.h"
+#include "bench/Table.h"
 #include "bench/plain/PlainRows.h"
 
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <stdexcept>
+#include <string>
 
 namespace LagomareBench {
 

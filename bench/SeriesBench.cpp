@@ -1,16 +1,28 @@
 #include "access/Answer.h"
 #include "access/Fields.h"
+#include "access/QueryResult.h"
 #include "bench/Answers.h"
 #include "bench/Benches.h"
 #include "bench/Child.h"
+#include "bench/Table.h"
 #include "bench/plain/PlainRows.h"
 #include "bench/plain/PlainSerie.h"
+#include "elements/common/ElementMap.h"
+#include "elements/common/Elements.h"
 #include "elements/common/Series.h"
 #include "model/Calendar.h"
 #include "model/ElementFactory.h"
+#include "model/ElementType.h"
+#include "model/Interval.h"
+#include "model/Serie.h"
+#include "model/SerieType.h"
 
 #include <fstream>
+#include <functional>
+#include <map>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace LagomareBench {
 

@@ -1,12 +1,16 @@
 // Runs the benches and prints their table. What it writes stands in a directory of its own, which it removes.
 
 #include "bench/Benches.h"
+#include "bench/Table.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 

@@ -7,6 +7,8 @@
 #include "fuzz/Workplace.h"
 
 #include <array>
+#include <cstdint>
+#include <string>
 
 using namespace LagomareFuzz;
 

@@ -3,10 +3,16 @@
 
 #include "access/Answer.h"
 #include "access/Fields.h"
+#include "access/QueryResult.h"
+#include "access/ValueColumn.h"
+#include "access/ValueResult.h"
 #include "fuzz/Finding.h"
 
-#include <limits>
+#include <cstdint>
 #include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 using namespace Lagomare;
 using namespace LagomareFuzz;

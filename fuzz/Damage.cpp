@@ -1,6 +1,7 @@
 #include "fuzz/Damage.h"
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 namespace LagomareFuzz {

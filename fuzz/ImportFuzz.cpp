@@ -3,17 +3,24 @@
 // no rows. Each input is imported as a project of either dialect that it has settings of.
 
 #include "access/LagomareProjectManager.h"
+#include "access/QuerySource.h"
 #include "bench/Digest.h"
 #include "fuzz/Finding.h"
 #include "loader/LagomareProjectLoader.h"
+#include "loader/SceneryProjectManagerRet.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <exception>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <map>
+#include <memory>
 #include <set>
 #include <sstream>
+#include <string>
 
 using namespace LagomareFuzz;
 

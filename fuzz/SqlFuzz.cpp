@@ -6,11 +6,18 @@
 #include "fuzz/Workplace.h"
 #include "tools/query/QueryError.h"
 #include "tools/query/Session.h"
+#include "tools/query/answer/AnswerStream.h"
 #include "tools/query/sqlite/Sqlite.h"
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <iterator>
 #include <sstream>
+#include <string>
+#include <string_view>
 
 using namespace LagomareFuzz;
 using namespace LagomareQuery;

@@ -11,6 +11,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
 
 using namespace LagomareFuzz;
 using namespace LagomareQuery;

@@ -3,10 +3,13 @@
 #include "fuzz/Finding.h"
 #include "tools/query/Query.h"
 #include "tools/query/QueryError.h"
+#include "tools/query/answer/AnswerSink.h"
+#include "tools/query/sqlite/Sqlite.h"
 
 #include <algorithm>
 #include <iterator>
 #include <sstream>
+#include <string_view>
 
 namespace LagomareFuzz {
 

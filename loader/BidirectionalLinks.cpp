@@ -2,6 +2,7 @@
 
 #include "elements/common/Kinds.h"
 #include "model/CoreServiceManager.h"
+#include "model/ElementType.h"
 #include "model/ElementsFilter.h"
 #include "model/Link.h"
 #include "model/Node.h"
@@ -9,7 +10,10 @@
 
 #include <deque>
 #include <map>
+#include <memory>
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace {
 

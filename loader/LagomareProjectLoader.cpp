@@ -3,6 +3,7 @@
 #include "access/LagomareProjectManager.h"
 #include "loader/2010/SceneryProjectManager.h"
 #include "loader/2013/SceneryProjectManager.h"
+#include "loader/ImportStatus.h"
 
 namespace {
 

@@ -1,5 +1,8 @@
 #include "bench/plain/InProcess.h"
 
+#include "model/Date.h"
+#include "model/Interval.h"
+
 namespace Plain {
 
 namespace {

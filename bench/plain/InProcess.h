@@ -1,9 +1,14 @@
 #pragma once
 
 #include "bench/plain/PlainImport.h"
+#include "bench/plain/PlainRows.h"
 #include "model/Calendar.h"
 #include "model/Serie.h"
 #include "tools/query/Database.h"
+#include "tools/query/sqlite/Sqlite.h"
+
+#include <string>
+#include <vector>
 
 namespace Plain {
 

@@ -1,5 +1,7 @@
 #include "bench/plain/PlainChannel.h"
 
+#include "bench/plain/PlainDate.h"
+
 #include <cstdlib>
 #include <fstream>
 

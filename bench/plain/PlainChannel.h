@@ -4,6 +4,10 @@
 #include "bench/plain/PlainRows.h"
 #include "bench/plain/PlainSerie.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace Plain {
 
 /// Values by date.

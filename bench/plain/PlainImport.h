@@ -6,7 +6,10 @@
 #include "model/TeluUtmDegreeConversion.h"
 
 #include <array>
+#include <map>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace Plain {

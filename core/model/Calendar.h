@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Date.h"
 #include "model/Interval.h"
 
 /// Calendar arithmetic on intervals. The idiom of a walk over an interval's steps:

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <utility>
 
 /// The series of one element, by kind. It shares them with whoever looks them up.
 template <typename T>

@@ -5,6 +5,7 @@
 #include "model/Node.h"
 #include "model/Scenario.h"
 
+#include <list>
 #include <stdexcept>
 
 namespace {

@@ -1,6 +1,9 @@
 #include "model/Demand.h"
 
+#include "model/Container.h"
 #include "model/Link.h"
+#include "model/Serie.h"
+#include "model/SerieType.h"
 
 Demand::Demand(const EnumElementType& kind) : Demand(kind, Point2D()) {}
 

@@ -1,7 +1,14 @@
 #pragma once
 
 #include "model/DemandSeriesInput.h"
+#include "model/ElementType.h"
 #include "model/Node.h"
+#include "model/Point2D.h"
+#include "telu_qt_export.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
 
 /// A node that takes water.
 class TELU_QT_EXPORT Demand : public Node {

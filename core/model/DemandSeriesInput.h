@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/Container.h"
+#include "model/SerieType.h"
+#include "model/Unit.h"
 #include "telu_qt_export.h"
 
 #include <utility>

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "model/Demand.h"
+#include "telu_qt_export.h"
+
+#include <cstdint>
+#include <memory>
 
 /// Where water leaves the network: a demand without end.
 class TELU_QT_EXPORT DrainDemand : public Demand {

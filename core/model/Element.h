@@ -2,11 +2,14 @@
 
 #include "model/Container.h"
 #include "model/ElementType.h"
+#include "model/Serie.h"
+#include "model/SerieType.h"
 #include "telu_qt_export.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// Anything that a scenario's network is made of. Owned by std::shared_ptr.

@@ -1,5 +1,7 @@
 #include "model/ElementFactory.h"
 
+#include "model/Demand.h"
+#include "model/DemandSeriesInput.h"
 #include "model/DrainDemand.h"
 #include "model/EnumElementTypeFactory.h"
 #include "model/EnumSerieTypeFactory.h"
@@ -7,8 +9,13 @@
 #include "model/Junction.h"
 #include "model/Link.h"
 #include "model/Reservoir.h"
+#include "model/Serie.h"
+#include "model/SerieType.h"
+#include "model/Unit.h"
 
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 namespace {
 

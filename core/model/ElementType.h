@@ -2,8 +2,11 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
 #include <memory>
 #include <set>
+#include <string>
+#include <utility>
 
 /// The kinds of element, by the ids that projects and lookups use.
 enum class ElementType : std::int32_t {

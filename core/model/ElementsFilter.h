@@ -1,8 +1,12 @@
 #pragma once
 
 #include "model/Element.h"
+#include "model/ElementType.h"
+#include "telu_qt_export.h"
 
+#include <memory>
 #include <set>
+#include <vector>
 
 class TELU_QT_EXPORT ElementsFilter {
 public:

@@ -2,6 +2,8 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
+
 enum class LinkAddonType : std::int32_t { None = 0, Propagation = 1, Pumping = 2 };
 
 /// What a link does to the water besides carrying it.

@@ -2,6 +2,10 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
+#include <string>
+#include <utility>
+
 enum class Periodicity : std::int32_t { Monthly = 1 };
 
 /// The length of an interval's steps, with the format in which its dates are shown.

@@ -1,5 +1,6 @@
 #include "model/EnumSerieTypeFactory.h"
 
+#include <cstdint>
 #include <stdexcept>
 
 Enum<SerieType> EnumSerieTypeFactory::makeSerieType(const SerieType& type) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Enum.h"
 #include "model/SerieType.h"
 #include "telu_qt_export.h"
 

@@ -1,5 +1,6 @@
 #include "model/EnumUnitFactoryByType.h"
 
+#include <cstdint>
 #include <stdexcept>
 
 Enum<Unit> EnumUnitFactoryByType::makeUnit(const Unit& unit) {

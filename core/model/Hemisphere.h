@@ -2,6 +2,10 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
+#include <string>
+#include <utility>
+
 enum class Hemisphere : std::int32_t { South = 0, North = 1 };
 
 /// A hemisphere, with the letter that follows the number of a UTM zone.

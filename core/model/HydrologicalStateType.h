@@ -2,6 +2,8 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
+
 /// How a scenario tells the hydrological state it is in.
 enum class HydrologicalStateType : std::int32_t { None = 0, Default = 1, ByReservoir = 2, ByReservoirMonthly = 3 };
 

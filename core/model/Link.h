@@ -1,6 +1,10 @@
 #pragma once
 
 #include "model/Element.h"
+#include "model/ElementType.h"
+#include "telu_qt_export.h"
+
+#include <memory>
 
 class Node;
 

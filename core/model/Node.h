@@ -1,10 +1,13 @@
 #pragma once
 
 #include "model/Element.h"
+#include "model/ElementType.h"
 #include "model/OrderedIndex.h"
 #include "model/Point2D.h"
+#include "telu_qt_export.h"
 
 #include <list>
+#include <memory>
 
 class Link;
 

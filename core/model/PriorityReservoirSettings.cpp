@@ -1,4 +1,7 @@
 #include "model/PriorityReservoirSettings.h"
 
+#include "model/SerieType.h"
+#include "model/Unit.h"
+
 PriorityReservoirSettings::PriorityReservoirSettings(unsigned numOfStates)
     : PrioritySettings(numOfStates, SerieType::TargetVolume, Unit::Dimensionless) {}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/PrioritySettings.h"
+#include "telu_qt_export.h"
 
 /// The settings of a reservoir; the series of a state is its target volume, a fraction.
 class TELU_QT_EXPORT PriorityReservoirSettings : public PrioritySettings {

@@ -1,9 +1,13 @@
 #include "model/PriorityScenario.h"
 
+#include "model/ElementType.h"
 #include "model/Node.h"
 #include "model/PriorityDemandSettings.h"
 #include "model/PriorityReservoirSettings.h"
 #include "model/SceneryCheckFactory.h"
+#include "model/Settings.h"
+
+#include <utility>
 
 namespace {
 

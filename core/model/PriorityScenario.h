@@ -1,7 +1,13 @@
 #pragma once
 
+#include "model/ExecutionMethod.h"
 #include "model/HydrologicalStateConfiguration.h"
+#include "model/Interval.h"
 #include "model/Scenario.h"
+#include "telu_qt_export.h"
+
+#include <memory>
+#include <string>
 
 class SceneryCheck;
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "model/Serie.h"
+#include "model/SerieType.h"
 #include "model/Settings.h"
+#include "model/Unit.h"
 #include "telu_qt_export.h"
 
 #include <cstdint>

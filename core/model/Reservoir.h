@@ -2,6 +2,9 @@
 
 #include "model/Node.h"
 #include "model/ReservoirInfo.h"
+#include "telu_qt_export.h"
+
+#include <utility>
 
 /// A node that stores water.
 class TELU_QT_EXPORT Reservoir : public Node {

@@ -3,6 +3,7 @@
 #include "telu_qt_export.h"
 
 #include <memory>
+#include <utility>
 
 class Scenario;
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "model/SceneryCheck.h"
+#include "telu_qt_export.h"
+
+#include <memory>
 
 class TELU_QT_EXPORT SceneryCheckFactory {
 public:

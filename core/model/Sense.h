@@ -2,7 +2,9 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
 #include <map>
+#include <string>
 
 /// The direction in which a link carries water, against the one it was drawn in.
 enum class Sense : std::int32_t { Original = 0, Inverted = 1 };

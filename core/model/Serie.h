@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Date.h"
+#include "model/Enum.h"
 #include "model/Interval.h"
 #include "model/SerieType.h"
 #include "model/Unit.h"

@@ -2,6 +2,7 @@
 
 #include "model/Enum.h"
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 

@@ -1,5 +1,7 @@
 #include "model/SettingsManager.h"
 
+#include <utility>
+
 std::shared_ptr<Settings> SettingsManager::getSettings(unsigned elementId) const {
   const auto found = settings_.find(elementId);
   return found == settings_.end() ? nullptr : found->second;

@@ -1,5 +1,7 @@
 #include "model/TeluCoreProgressBar.h"
 
+#include <utility>
+
 const char* TeluCoreProgressBar::ProgressCancelException::what() const noexcept {
   return "TeluCoreProgressBar canceled";
 }

@@ -3,8 +3,10 @@
 #include "model/Enum.h"
 #include "model/SerieType.h"
 
+#include <cstdint>
 #include <memory>
 #include <set>
+#include <string>
 
 /// The units of series. MG and KG share the id 13 and no unit has 14: projects hold these ids.
 enum class Unit : std::int32_t {

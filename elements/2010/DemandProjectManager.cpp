@@ -5,7 +5,9 @@
 #include "elements/common/Elements.h"
 #include "elements/common/Kinds.h"
 #include "elements/common/Priorities.h"
+#include "elements/common/Series.h"
 #include "elements/common/StateSeries.h"
+#include "elements/common/States.h"
 #include "elements/common/Steps.h"
 #include "model/PriorityDemandSettings.h"
 

@@ -5,6 +5,8 @@
 #include "model/Scenario.h"
 #include "model/TeluCoreProgressBar.h"
 
+#include <utility>
+
 namespace Lagomare2010 {
 
 using namespace Lagomare;

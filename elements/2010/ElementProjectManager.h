@@ -2,9 +2,9 @@
 
 #include "elements/common/ElementMap.h"
 #include "lagomare_export.h"
+#include "model/Element.h"
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>

@@ -2,6 +2,7 @@
 
 #include "elements/common/ElementMap.h"
 #include "lagomare_export.h"
+#include "model/ElementType.h"
 
 #include <functional>
 #include <map>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "elements/2010/NodeProjectManager.h"
+#include "lagomare_export.h"
 
 namespace Lagomare2010 {
 

@@ -1,6 +1,11 @@
 #pragma once
 
 #include "elements/2010/ElementProjectManager.h"
+#include "lagomare_export.h"
+#include "model/Element.h"
+
+#include <memory>
+#include <string>
 
 namespace Lagomare2010 {
 

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "elements/2010/ElementProjectManager.h"
+#include "lagomare_export.h"
 #include "model/Interval.h"
 #include "model/SerieType.h"
+
+#include <string>
 
 namespace Lagomare2010 {
 

@@ -7,6 +7,8 @@
 #include "model/Scenario.h"
 #include "model/TeluCoreProgressBar.h"
 
+#include <utility>
+
 namespace Lagomare2013 {
 
 using namespace Lagomare;

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "elements/2013/ElementProjectManager.h"
 #include "elements/2013/NodeProjectManager.h"
+#include "lagomare_export.h"
+
+#include <string>
 
 namespace Lagomare2013 {
 

@@ -1,10 +1,12 @@
 #include "elements/2013/LinkProjectManager.h"
 
 #include "access/Fields.h"
+#include "access/QueryResult.h"
 #include "elements/common/Elements.h"
 #include "elements/common/Kinds.h"
 #include "elements/common/Links.h"
 #include "elements/common/Steps.h"
+#include "model/Link.h"
 
 namespace Lagomare2013 {
 

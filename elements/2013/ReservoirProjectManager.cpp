@@ -1,13 +1,17 @@
 #include "elements/2013/ReservoirProjectManager.h"
 
+#include "access/QueryResult.h"
 #include "elements/2013/SerieProjectManager.h"
 #include "elements/common/Elements.h"
 #include "elements/common/Kinds.h"
 #include "elements/common/Priorities.h"
 #include "elements/common/Reservoirs.h"
+#include "elements/common/Series.h"
 #include "elements/common/StateSeries.h"
+#include "elements/common/States.h"
 #include "elements/common/Steps.h"
 #include "model/PriorityReservoirSettings.h"
+#include "model/Reservoir.h"
 
 namespace Lagomare2013 {
 

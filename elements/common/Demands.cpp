@@ -4,6 +4,7 @@
 #include "elements/common/Kinds.h"
 #include "model/Calendar.h"
 #include "model/ElementFactory.h"
+#include "model/Node.h"
 #include "model/NumericalUtils.h"
 
 namespace Lagomare {

@@ -1,7 +1,12 @@
 #pragma once
 
+#include "elements/common/ElementMap.h"
 #include "elements/common/Elements.h"
 #include "model/Demand.h"
+#include "model/Element.h"
+#include "model/Interval.h"
+
+#include <memory>
 
 namespace Lagomare {
 

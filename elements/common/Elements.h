@@ -1,8 +1,14 @@
 #pragma once
 
 #include "access/Fields.h"
+#include "access/QueryResult.h"
 #include "elements/common/ElementMap.h"
+#include "model/Element.h"
+#include "model/ElementType.h"
+#include "model/SerieType.h"
 
+#include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>

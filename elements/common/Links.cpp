@@ -5,6 +5,7 @@
 #include "model/Node.h"
 
 #include <stdexcept>
+#include <string>
 
 namespace Lagomare {
 

@@ -1,8 +1,13 @@
 #pragma once
 
+#include "access/QueryResult.h"
+#include "elements/common/ElementMap.h"
 #include "elements/common/Elements.h"
+#include "model/Interval.h"
 #include "model/Link.h"
 #include "model/Scenario.h"
+
+#include <memory>
 
 namespace Lagomare {
 

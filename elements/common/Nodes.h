@@ -1,5 +1,7 @@
 #pragma once
 
+#include "access/QueryResult.h"
+#include "elements/common/ElementMap.h"
 #include "elements/common/Elements.h"
 #include "model/Node.h"
 

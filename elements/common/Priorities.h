@@ -1,9 +1,13 @@
 #pragma once
 
 #include "access/Fields.h"
+#include "access/QueryResult.h"
+#include "elements/common/ElementMap.h"
 #include "elements/common/Elements.h"
 #include "elements/common/SettingsOf.h"
 #include "elements/common/States.h"
+#include "model/Element.h"
+#include "model/Scenario.h"
 
 namespace Lagomare {
 

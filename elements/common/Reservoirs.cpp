@@ -6,6 +6,9 @@
 #include "model/Calendar.h"
 #include "model/NumericalUtils.h"
 
+#include <utility>
+#include <vector>
+
 namespace Lagomare {
 
 namespace {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "access/QueryResult.h"
+#include "elements/common/ElementMap.h"
 #include "elements/common/Elements.h"
+#include "model/Interval.h"
 #include "model/PriorityReservoirSettings.h"
 #include "model/Reservoir.h"
 #include "model/Scenario.h"

@@ -1,6 +1,7 @@
 #include "elements/common/Series.h"
 
 #include "model/Calendar.h"
+#include "model/Element.h"
 
 namespace Lagomare {
 

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "access/ValueColumn.h"
 #include "access/ValueResult.h"
+#include "elements/common/ElementMap.h"
 #include "elements/common/Elements.h"
+#include "model/Interval.h"
+#include "model/SerieType.h"
 
 namespace Lagomare {
 

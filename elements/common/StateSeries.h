@@ -1,8 +1,10 @@
 #pragma once
 
+#include "access/ValueResult.h"
 #include "elements/common/Series.h"
 #include "elements/common/SettingsOf.h"
 #include "elements/common/States.h"
+#include "model/Scenario.h"
 
 #include <string>
 

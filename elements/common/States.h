@@ -1,8 +1,7 @@
 #pragma once
 
 #include "model/PriorityScenario.h"
-
-#include <memory>
+#include "model/Scenario.h"
 
 namespace Lagomare {
 

@@ -1,3 +1,4 @@
+#include "loader/ImportStatus.h"
 #include "loader/LagomareProjectLoader.h"
 #include "model/Element.h"
 #include "model/Scenario.h"

@@ -2,6 +2,7 @@
 
 #include "access/Fields.h"
 #include "access/LagomareProjectManager.h"
+#include "access/QueryResult.h"
 #include "elements/2010/ElementBdIdFactory.h"
 #include "elements/2010/ElementProjectManager.h"
 #include "elements/2010/ElementProjectManagerFactory.h"

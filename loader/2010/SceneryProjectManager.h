@@ -6,6 +6,7 @@
 #include "model/Interval.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 

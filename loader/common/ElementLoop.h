@@ -3,10 +3,12 @@
 #include "elements/common/Elements.h"
 #include "loader/common/SizeGuard.h"
 #include "model/ElementFactory.h"
+#include "model/ElementType.h"
 #include "model/Scenario.h"
 #include "model/TeluCoreProgressBar.h"
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace Lagomare {

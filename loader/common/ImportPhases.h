@@ -1,9 +1,12 @@
 #pragma once
 
 #include "access/Fields.h"
+#include "access/QueryResult.h"
+#include "loader/ImportStatus.h"
 #include "loader/SceneryProjectManagerRet.h"
 
 #include <functional>
+#include <memory>
 
 namespace Lagomare {
 

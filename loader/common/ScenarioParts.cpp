@@ -8,6 +8,7 @@
 #include "model/ScenarioManager.h"
 
 #include <stdexcept>
+#include <vector>
 
 namespace Lagomare {
 

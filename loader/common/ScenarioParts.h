@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Interval.h"
 #include "model/Scenario.h"
 
 #include <cstdint>

@@ -3,6 +3,7 @@
 #include "elements/common/States.h"
 #include "model/Element.h"
 #include "model/ElementFactory.h"
+#include "model/Interval.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,7 +1,10 @@
 #include "check/MemoryProject.h"
+#include "tools/check/CheckResult.h"
 #include "tools/check/CheckText.h"
+#include "tools/project/Dialect.h"
 
 #include <gmock/gmock.h>
+#include <string>
 
 #include <fstream>
 #include <sstream>

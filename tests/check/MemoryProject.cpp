@@ -1,15 +1,22 @@
 #include "check/MemoryProject.h"
 
 #include "access/LagomareProjectManager.h"
+#include "loader/ImportStatus.h"
 #include "loader/LagomareProjectLoader.h"
 #include "model/Scenario.h"
 #include "tools/check/CheckText.h"
 #include "tools/check/Rule.h"
+#include "tools/project/Fault.h"
 #include "tools/project/QueryRefused.h"
 #include "tools/query/Query.h"
 #include "tools/query/QueryError.h"
+#include "tools/query/answer/AnswerSink.h"
 
+#include <exception>
 #include <gtest/gtest.h>
+#include <optional>
+#include <stdexcept>
+#include <string_view>
 
 #include <sstream>
 

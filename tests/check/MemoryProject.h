@@ -3,7 +3,15 @@
 #include "access/QuerySource.h"
 #include "loader/SceneryProjectManagerRet.h"
 #include "tools/check/Check.h"
+#include "tools/check/CheckResult.h"
+#include "tools/project/Dialect.h"
 #include "tools/query/Database.h"
+#include "tools/query/sqlite/Sqlite.h"
+
+#include <istream>
+#include <memory>
+#include <string>
+#include <vector>
 
 /// A project in memory that answers as the bundled query executable does.
 class MemoryProject : public Lagomare::QuerySource {

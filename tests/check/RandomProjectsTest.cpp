@@ -1,13 +1,26 @@
 #include "check/MemoryProject.h"
 #include "model/Calendar.h"
+#include "model/Date.h"
+#include "model/ElementType.h"
+#include "model/Interval.h"
 #include "model/Link.h"
 #include "model/Node.h"
 #include "model/PriorityReservoirSettings.h"
+#include "model/PrioritySettings.h"
 #include "model/Reservoir.h"
 #include "model/Scenario.h"
+#include "model/Serie.h"
+#include "model/SerieType.h"
+#include "tools/check/CheckResult.h"
 #include "tools/check/CheckText.h"
+#include "tools/check/Tables.h"
+#include "tools/project/Dialect.h"
+#include "tools/project/Fault.h"
 
 #include <gmock/gmock.h>
+#include <memory>
+#include <string>
+#include <vector>
 
 #include <array>
 #include <random>

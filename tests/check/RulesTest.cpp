@@ -1,8 +1,12 @@
 #include "check/MemoryProject.h"
+#include "tools/check/CheckResult.h"
 #include "tools/check/CheckText.h"
 #include "tools/check/Rule.h"
+#include "tools/project/Dialect.h"
 
 #include <gmock/gmock.h>
+#include <string>
+#include <vector>
 
 #include <set>
 

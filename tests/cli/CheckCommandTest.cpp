@@ -1,6 +1,10 @@
 #include "support/CommandTest.h"
+#include "support/Program.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
 
 using testing::AllOf;
 using testing::EndsWith;

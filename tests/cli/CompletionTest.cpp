@@ -1,4 +1,7 @@
 #include "support/CommandTest.h"
+#include "support/Program.h"
+
+#include <string>
 
 using testing::HasSubstr;
 

@@ -1,7 +1,12 @@
 #include "support/CommandTest.h"
+#include "support/Program.h"
 
 #include <fcntl.h>
+#include <filesystem>
 #include <nlohmann/json.hpp>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace fs = std::filesystem;
 using testing::AllOf;

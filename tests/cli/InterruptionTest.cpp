@@ -1,10 +1,14 @@
 #include "support/CommandTest.h"
+#include "support/Program.h"
 
 #include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <poll.h>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace fs = std::filesystem;
 

@@ -1,7 +1,12 @@
 #include "support/CommandTest.h"
+#include "support/Program.h"
 
+#include <filesystem>
+#include <iterator>
 #include <nlohmann/json.hpp>
+#include <string>
 #include <sys/stat.h>
+#include <vector>
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;

@@ -1,6 +1,8 @@
 #include "support/CommandTest.h"
+#include "support/Program.h"
 
 #include <nlohmann/json.hpp>
+#include <string>
 
 using nlohmann::json;
 using testing::HasSubstr;

@@ -10,8 +10,11 @@
 
 #include <iomanip>
 #include <iostream>
+#include <map>
+#include <memory>
 #include <set>
 #include <sstream>
+#include <string>
 
 namespace {
 

@@ -3,7 +3,12 @@
 #include "access/FieldError.h"
 #include "access/Fields.h"
 
+#include <cstdint>
+#include <exception>
 #include <gmock/gmock.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include <random>
 #include <sstream>

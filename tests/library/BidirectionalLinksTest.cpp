@@ -4,6 +4,8 @@
 #include "model/Node.h"
 
 #include <gtest/gtest.h>
+#include <memory>
+#include <string>
 
 #include <algorithm>
 #include <sstream>

@@ -4,7 +4,11 @@
 #include "model/ScenarioManager.h"
 
 #include <clocale>
+#include <cstdlib>
+#include <filesystem>
 #include <locale>
+#include <string>
+#include <vector>
 
 using namespace testing;
 

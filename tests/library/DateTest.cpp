@@ -1,6 +1,9 @@
 #include "model/Date.h"
 
 #include <gmock/gmock.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 using namespace testing;
 

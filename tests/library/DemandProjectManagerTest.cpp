@@ -3,6 +3,9 @@
 #include "model/DrainDemand.h"
 #include "model/PriorityDemandSettings.h"
 
+#include <memory>
+#include <string>
+
 using namespace testing;
 
 namespace {

@@ -2,6 +2,9 @@
 
 #include "loader/LagomareProjectLoader.h"
 
+#include <functional>
+#include <string>
+
 /// What tests need to know of a dialect: a project is written once, in the tables of commonTables, and turned
 /// into the dialect's own.
 struct Dialect {

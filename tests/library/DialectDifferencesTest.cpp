@@ -2,6 +2,9 @@
 
 #include "model/Link.h"
 
+#include <stdexcept>
+#include <string>
+
 using namespace testing;
 
 namespace {

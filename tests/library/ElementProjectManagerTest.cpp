@@ -8,6 +8,10 @@
 #include "model/TeluCoreProgressBar.h"
 
 #include <gmock/gmock.h>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 using namespace testing;
 

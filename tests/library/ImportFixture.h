@@ -4,7 +4,12 @@
 #include "model/Node.h"
 #include "model/Scenario.h"
 
+#include <functional>
 #include <gmock/gmock.h>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include <filesystem>
 

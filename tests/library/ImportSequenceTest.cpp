@@ -1,6 +1,10 @@
 #include "ImportFixture.h"
 
+#include <filesystem>
 #include <sstream>
+#include <string>
+#include <tuple>
+#include <vector>
 
 using namespace testing;
 

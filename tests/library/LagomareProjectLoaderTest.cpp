@@ -4,6 +4,11 @@
 #include "access/LagomareProjectManager.h"
 #include "model/Link.h"
 
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
 using namespace Lagomare;
 using namespace testing;
 

@@ -2,6 +2,9 @@
 
 #include "ImportFixture.h"
 
+#include <filesystem>
+#include <stdexcept>
+
 using namespace testing;
 
 namespace {

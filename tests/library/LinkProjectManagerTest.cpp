@@ -2,6 +2,11 @@
 
 #include "model/Link.h"
 
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
 using namespace testing;
 
 namespace {

@@ -3,6 +3,8 @@
 #include "model/ElementType.h"
 #include "model/PriorityScenario.h"
 
+#include <memory>
+
 class Link;
 class Node;
 

@@ -3,6 +3,8 @@
 #include "access/FieldError.h"
 #include "model/TeluUtmDegreeConversion.h"
 
+#include <utility>
+
 using namespace Lagomare;
 using namespace testing;
 

@@ -3,7 +3,13 @@
 #include "access/FieldError.h"
 #include "access/Fields.h"
 
+#include <cstdint>
+#include <cstdio>
+#include <exception>
 #include <gmock/gmock.h>
+#include <optional>
+#include <stdexcept>
+#include <string>
 
 #include <array>
 #include <cfloat>

@@ -9,6 +9,12 @@
 #include "model/PrioritySettings.h"
 #include "model/TeluCoreProgressBar.h"
 
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+#include <vector>
+
 using namespace testing;
 
 namespace {

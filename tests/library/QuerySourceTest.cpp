@@ -4,8 +4,14 @@
 #include "access/FieldError.h"
 #include "access/LagomareProjectManager.h"
 
+#include <filesystem>
 #include <fstream>
+#include <map>
+#include <memory>
 #include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 using namespace testing;
 

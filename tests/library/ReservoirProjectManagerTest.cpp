@@ -4,6 +4,9 @@
 #include "model/Reservoir.h"
 
 #include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
 
 using namespace testing;
 

@@ -8,6 +8,10 @@
 #include "model/SceneryCheck.h"
 
 #include <gmock/gmock.h>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 using namespace testing;
 

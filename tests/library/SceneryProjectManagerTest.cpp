@@ -5,6 +5,10 @@
 #include "model/PriorityScenario.h"
 #include "model/ScenarioManager.h"
 
+#include <memory>
+#include <stdexcept>
+#include <string>
+
 using namespace testing;
 
 namespace {

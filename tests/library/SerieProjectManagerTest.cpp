@@ -5,6 +5,12 @@
 #include "elements/2013/SerieProjectManager.h"
 #include "model/ElementFactory.h"
 
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
 using namespace testing;
 
 namespace {

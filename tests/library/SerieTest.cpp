@@ -1,6 +1,7 @@
 #include "model/Serie.h"
 
 #include <gmock/gmock.h>
+#include <vector>
 
 using namespace testing;
 

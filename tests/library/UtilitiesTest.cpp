@@ -3,6 +3,9 @@
 #include "model/TeluUtmDegreeConversion.h"
 
 #include <gmock/gmock.h>
+#include <stdexcept>
+#include <utility>
+#include <vector>
 
 #include <cmath>
 

@@ -3,6 +3,9 @@
 #include "model/EnumUnitFactoryByType.h"
 
 #include <gmock/gmock.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include <set>
 

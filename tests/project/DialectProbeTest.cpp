@@ -1,5 +1,8 @@
 #include "support/CommandTest.h"
 
+#include <string>
+#include <vector>
+
 using testing::HasSubstr;
 
 class DialectProbeTest : public CommandTest {

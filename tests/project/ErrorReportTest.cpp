@@ -1,5 +1,9 @@
 #include "support/CommandTest.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;

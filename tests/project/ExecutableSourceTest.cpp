@@ -1,6 +1,9 @@
 #include "support/CommandTest.h"
 
 #include <csignal>
+#include <filesystem>
+#include <string>
+#include <vector>
 
 namespace fs = std::filesystem;
 using testing::AllOf;

@@ -4,7 +4,10 @@
 #include "tools/project/Import.h"
 #include "tools/system/Failure.h"
 
+#include <filesystem>
 #include <functional>
+#include <utility>
+#include <vector>
 
 using namespace LagomareTools;
 namespace fs = std::filesystem;

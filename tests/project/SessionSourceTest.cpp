@@ -5,6 +5,10 @@
 #include "tools/project/QueryRefused.h"
 #include "tools/system/Interruption.h"
 
+#include <filesystem>
+#include <memory>
+#include <string>
+
 using namespace LagomareTools;
 using testing::AllOf;
 using testing::HasSubstr;

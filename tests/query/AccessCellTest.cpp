@@ -1,7 +1,9 @@
 #include "tools/query/QueryError.h"
 #include "tools/query/access/AccessNumber.h"
 #include "tools/query/access/AccessText.h"
+#include <cstdint>
 #include <gtest/gtest.h>
+#include <string>
 
 namespace LagomareQuery {
 namespace {

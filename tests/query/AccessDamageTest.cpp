@@ -1,8 +1,11 @@
 #include "tests/query/QueryTest.h"
 #include "tools/query/Program.h"
 #include <algorithm>
+#include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <random>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 

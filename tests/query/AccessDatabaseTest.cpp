@@ -1,5 +1,10 @@
 #include "tests/query/QueryTest.h"
+#include <cstdint>
+#include <filesystem>
 #include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace LagomareQuery {
 namespace {

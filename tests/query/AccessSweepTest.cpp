@@ -3,6 +3,10 @@
 #include "tools/query/access/AccessCatalog.h"
 #include "tools/query/access/AccessScan.h"
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
 
 namespace LagomareQuery {
 namespace {

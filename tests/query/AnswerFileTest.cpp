@@ -2,11 +2,16 @@
 
 #include "tests/query/QueryTest.h"
 #include "tools/query/QueryError.h"
-#include <algorithm>
 #include <csignal>
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <string_view>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace LagomareQuery {
 namespace {

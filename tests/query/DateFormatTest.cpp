@@ -3,6 +3,8 @@
 #include "tests/query/QueryTest.h"
 #include "tools/query/QueryError.h"
 
+#include <string>
+
 namespace LagomareQuery {
 namespace {
 

@@ -2,6 +2,11 @@
 
 #include "tests/query/QueryTest.h"
 
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace LagomareQuery {
 namespace {
 

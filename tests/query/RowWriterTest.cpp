@@ -2,11 +2,14 @@
 #include "tools/query/answer/NumberText.h"
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <random>
+#include <string>
+#include <utility>
 
 namespace LagomareQuery {
 namespace {

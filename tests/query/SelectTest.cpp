@@ -1,6 +1,8 @@
 #include "tests/query/QueryTest.h"
 
+#include <filesystem>
 #include <gmock/gmock.h>
+#include <string>
 
 namespace LagomareQuery {
 namespace {

@@ -6,9 +6,16 @@
 #include "tools/system/StandardStreams.h"
 #include <algorithm>
 #include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <functional>
 #include <sstream>
+#include <string>
 #include <sys/wait.h>
+#include <tuple>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace LagomareQuery {
 namespace {

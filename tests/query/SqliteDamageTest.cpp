@@ -4,7 +4,10 @@
 #include "tools/query/sqlite/Sqlite.h"
 #include "tools/query/sqlite/WriteAheadLog.h"
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 namespace LagomareQuery {
 namespace {

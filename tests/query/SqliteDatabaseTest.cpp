@@ -3,7 +3,11 @@
 #include "tests/query/QueryTest.h"
 #include "tools/query/Program.h"
 #include "tools/query/QueryError.h"
+#include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <set>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 

@@ -1,5 +1,8 @@
 #include "tests/query/QueryTest.h"
 
+#include <string>
+#include <vector>
+
 namespace LagomareQuery {
 namespace {
 

@@ -4,6 +4,7 @@
 #include "tools/query/Query.h"
 #include "tools/query/QueryError.h"
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -12,6 +13,8 @@
 #include <optional>
 #include <random>
 #include <set>
+#include <string_view>
+#include <utility>
 
 namespace LagomareQuery {
 

@@ -4,6 +4,8 @@
 
 #include <filesystem>
 #include <gmock/gmock.h>
+#include <string>
+#include <vector>
 
 /// Runs the real programs as a user does, in a directory of the test's own whose name a shell would stumble over. After
 /// each test TMPDIR must be as empty as before.

@@ -9,7 +9,12 @@
 #include <algorithm>
 #include <array>
 #include <fmt/format.h>
+#include <memory>
+#include <optional>
 #include <stdexcept>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 

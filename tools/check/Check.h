@@ -1,8 +1,11 @@
 #pragma once
 
+#include "access/QuerySource.h"
 #include "tools/check/CheckResult.h"
+#include "tools/project/Dialect.h"
 
 #include <functional>
+#include <string>
 
 namespace LagomareTools {
 

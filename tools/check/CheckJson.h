@@ -2,6 +2,8 @@
 
 #include "tools/check/CheckResult.h"
 
+#include <string>
+
 namespace LagomareTools {
 
 /// What a check found, as docs/check.schema.json describes it; ends with a line feed. `project` as for textOf().

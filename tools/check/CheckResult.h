@@ -1,7 +1,12 @@
 #pragma once
 
 #include "tools/check/Listing.h"
+#include "tools/project/Dialect.h"
 #include "tools/project/Fault.h"
+
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -5,8 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <fmt/format.h>
-#include <iterator>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "tools/check/CheckResult.h"
+#include "tools/project/Fault.h"
+
+#include <string>
 
 namespace LagomareTools {
 

@@ -2,6 +2,11 @@
 
 #include "tools/check/TableRows.h"
 
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace LagomareTools {
 
 // The fields of the current row as the import converts them. What it would stumble over becomes an error, what it would

@@ -6,6 +6,12 @@
 #include "tools/system/Text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace LagomareTools {
 

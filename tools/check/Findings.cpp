@@ -3,6 +3,7 @@
 #include "tools/system/Text.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 
 namespace LagomareTools {

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "tools/check/Rule.h"
+#include "tools/project/Fault.h"
 
+#include <cstdint>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>

@@ -1,9 +1,17 @@
 #pragma once
 
+#include "access/QuerySource.h"
 #include "model/Interval.h"
 #include "tools/check/CheckResult.h"
 #include "tools/check/Elements.h"
 #include "tools/check/Findings.h"
+#include "tools/check/Listing.h"
+#include "tools/check/Tables.h"
+#include "tools/project/Dialect.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -5,6 +5,9 @@
 #include "tools/system/Text.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
 
 namespace LagomareTools {
 

@@ -4,6 +4,9 @@
 #include "tools/check/Tables.h"
 
 #include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace LagomareTools {
 

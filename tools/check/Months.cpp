@@ -3,6 +3,8 @@
 #include <array>
 #include <charconv>
 #include <fmt/format.h>
+#include <string_view>
+#include <system_error>
 
 namespace LagomareTools {
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "model/Interval.h"
 #include "tools/check/TableRows.h"
 
 #include <limits>
+#include <optional>
+#include <string>
 
 namespace LagomareTools {
 

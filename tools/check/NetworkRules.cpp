@@ -3,9 +3,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <fmt/format.h>
-#include <numeric>
+#include <map>
 #include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -4,6 +4,8 @@
 #include "tools/check/Conversions.h"
 
 #include <charconv>
+#include <string_view>
+#include <system_error>
 
 namespace LagomareTools {
 

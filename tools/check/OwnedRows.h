@@ -1,8 +1,16 @@
 #pragma once
 
+#include "tools/check/Elements.h"
+#include "tools/check/Findings.h"
+#include "tools/check/Inspection.h"
+#include "tools/check/Rule.h"
 #include "tools/check/TableRows.h"
+#include "tools/check/Tables.h"
 
+#include <cstdint>
 #include <deque>
+#include <optional>
+#include <string>
 #include <unordered_map>
 
 namespace LagomareTools {

@@ -3,7 +3,11 @@
 #include "access/LineReader.h"
 #include "access/QuerySource.h"
 
+#include <istream>
 #include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -7,7 +7,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
 #include <map>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace LagomareTools {
 

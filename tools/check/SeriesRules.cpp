@@ -7,6 +7,11 @@
 #include "tools/check/OwnedRows.h"
 #include "tools/check/ValueRules.h"
 
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
 namespace LagomareTools {
 
 namespace {

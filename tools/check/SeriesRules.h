@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/check/Inspection.h"
+#include "tools/check/Tables.h"
 
 namespace LagomareTools {
 

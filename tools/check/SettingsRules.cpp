@@ -6,6 +6,13 @@
 #include "tools/check/Conversions.h"
 #include "tools/check/Rules.h"
 
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace LagomareTools {
 
 namespace {

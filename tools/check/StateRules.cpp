@@ -2,7 +2,9 @@
 #include "tools/check/Rules.h"
 #include "tools/check/ValueRules.h"
 
+#include <cstdint>
 #include <map>
+#include <optional>
 
 namespace LagomareTools {
 

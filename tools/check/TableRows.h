@@ -1,7 +1,17 @@
 #pragma once
 
+#include "tools/check/Findings.h"
 #include "tools/check/Inspection.h"
+#include "tools/check/Listing.h"
 #include "tools/check/RowReader.h"
+#include "tools/check/Rule.h"
+#include "tools/check/Tables.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace LagomareTools {
 

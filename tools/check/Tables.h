@@ -3,8 +3,6 @@
 #include "tools/project/Dialect.h"
 
 #include <cstddef>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace LagomareTools {

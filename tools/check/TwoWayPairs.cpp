@@ -8,7 +8,11 @@
 #include "model/Scenario.h"
 
 #include <deque>
+#include <memory>
+#include <optional>
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -2,6 +2,9 @@
 
 #include "tools/check/Elements.h"
 
+#include <cstdint>
+#include <map>
+
 namespace LagomareTools {
 
 /// The links that the import folds into the opposite one of the same two reservoirs: by their ids the id of the link

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "tools/check/Elements.h"
 #include "tools/check/TableRows.h"
+
+#include <optional>
 
 namespace LagomareTools {
 

@@ -7,8 +7,10 @@
 #include "tools/system/Failure.h"
 #include "tools/system/StandardStreams.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <fmt/format.h>
+#include <string>
 
 namespace LagomareTools {
 

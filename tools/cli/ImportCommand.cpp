@@ -9,6 +9,11 @@
 #include "tools/system/Interruption.h"
 #include "tools/system/StandardStreams.h"
 
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace LagomareTools {
 
 namespace {

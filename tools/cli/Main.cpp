@@ -5,6 +5,7 @@
 #include "tools/system/StandardStreams.h"
 
 #include <cstdio>
+#include <exception>
 #include <new>
 #include <string>
 #include <variant>

@@ -4,6 +4,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <functional>
+#include <sstream>
+#include <string_view>
+#include <utility>
 
 namespace LagomareTools {
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "tools/cli/OutputKinds.h"
+#include "tools/export/ExportInput.h"
 #include "tools/project/ProjectOptions.h"
+#include "tools/system/OutputFile.h"
 
 #include <string>
 #include <variant>

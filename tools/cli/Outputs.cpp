@@ -3,6 +3,9 @@
 #include "tools/system/Failure.h"
 
 #include <algorithm>
+#include <system_error>
+#include <utility>
+#include <vector>
 
 namespace LagomareTools {
 

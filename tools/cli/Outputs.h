@@ -1,9 +1,12 @@
 #pragma once
 
 #include "tools/cli/Options.h"
+#include "tools/cli/OutputKinds.h"
+#include "tools/export/ExportInput.h"
 #include "tools/project/ProjectFiles.h"
 #include "tools/system/OutputFile.h"
 
+#include <filesystem>
 #include <list>
 #include <string>
 

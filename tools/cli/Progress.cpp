@@ -3,6 +3,7 @@
 #include "tools/system/StandardStreams.h"
 
 #include <cstdio>
+#include <exception>
 #include <fmt/format.h>
 
 namespace LagomareTools {

@@ -2,6 +2,8 @@
 
 #include "tools/export/ExportInput.h"
 
+#include <string>
+
 namespace LagomareTools {
 
 /// Returns what was imported, for people: several lines.

@@ -3,9 +3,12 @@
 #include "tools/export/NumberText.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace LagomareTools {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/export/ExportInput.h"
 #include "tools/export/Table.h"
 #include "tools/system/FileWriter.h"
 

@@ -4,6 +4,8 @@
 #include "tools/export/ScenarioView.h"
 
 #include <cmath>
+#include <optional>
+#include <string>
 
 namespace LagomareTools {
 

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace LagomareTools {
 

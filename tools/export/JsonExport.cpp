@@ -5,6 +5,9 @@
 #include "tools/export/NumberText.h"
 #include "tools/export/ScenarioView.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace LagomareTools {
 
 namespace {

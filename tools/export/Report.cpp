@@ -6,6 +6,7 @@
 #include "tools/export/report/ReportParts.h"
 
 #include <filesystem>
+#include <string_view>
 
 namespace LagomareTools {
 

@@ -6,7 +6,9 @@
 #include "model/PrioritySettings.h"
 #include "model/Reservoir.h"
 
+#include <cstdint>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "tools/export/NumberText.h"
 #include "tools/system/Failure.h"
 
+#include <cstdint>
 #include <sqlite3.h>
 #include <variant>
 

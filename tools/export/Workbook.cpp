@@ -3,6 +3,7 @@
 #include "tools/system/Failure.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <xlsxwriter.h>
 
 namespace LagomareTools {

@@ -4,6 +4,8 @@
 #include "tools/system/Text.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>

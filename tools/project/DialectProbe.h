@@ -3,6 +3,8 @@
 #include "tools/project/Dialect.h"
 #include "tools/project/ProjectSource.h"
 
+#include <string>
+
 namespace LagomareTools {
 
 /// Finds the dialect whose table of general settings the database holds, empty or not. Throws Failure if it holds both

@@ -6,6 +6,8 @@
 
 #include <cerrno>
 #include <fstream>
+#include <system_error>
+#include <utility>
 
 namespace LagomareTools {
 

@@ -3,6 +3,11 @@
 #include "tools/project/ProjectSource.h"
 #include "tools/system/PrivateDirectory.h"
 
+#include <filesystem>
+#include <istream>
+#include <memory>
+#include <string>
+
 namespace LagomareTools {
 
 /// Starts a custom query executable once per query, with the words DATABASE SQL FLAG, in a private directory. It is not

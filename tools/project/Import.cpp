@@ -7,6 +7,8 @@
 #include "tools/system/Failure.h"
 #include "tools/system/Interruption.h"
 
+#include <exception>
+
 namespace LagomareTools {
 
 namespace {

@@ -7,6 +7,8 @@
 #include "tools/project/SessionSource.h"
 #include "tools/system/Failure.h"
 
+#include <system_error>
+
 namespace LagomareTools {
 
 namespace {

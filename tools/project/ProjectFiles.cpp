@@ -5,6 +5,8 @@
 #include "tools/system/ProgramPath.h"
 
 #include <cerrno>
+#include <string>
+#include <system_error>
 
 namespace LagomareTools {
 

@@ -2,6 +2,10 @@
 
 #include "access/QuerySource.h"
 
+#include <istream>
+#include <memory>
+#include <string>
+
 namespace LagomareTools {
 
 /// Answers the queries on one project, through a query executable. Remembers the last query, for error messages.

@@ -3,6 +3,8 @@
 #include "tools/project/QueryRefused.h"
 
 #include <algorithm>
+#include <streambuf>
+#include <utility>
 
 namespace LagomareTools {
 

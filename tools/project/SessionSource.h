@@ -5,6 +5,10 @@
 #include "tools/system/PrivateDirectory.h"
 
 #include <array>
+#include <filesystem>
+#include <istream>
+#include <memory>
+#include <string>
 #include <string_view>
 
 namespace LagomareTools {

@@ -1,6 +1,7 @@
 #include "tools/project/UtmZone.h"
 
 #include <charconv>
+#include <system_error>
 
 namespace LagomareTools {
 

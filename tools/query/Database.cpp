@@ -8,6 +8,8 @@
 #include <array>
 #include <cerrno>
 #include <fstream>
+#include <string_view>
+#include <system_error>
 
 namespace LagomareQuery {
 

@@ -5,6 +5,7 @@
 #include "tools/query/sqlite/Sqlite.h"
 #include <algorithm>
 #include <cctype>
+#include <exception>
 
 namespace LagomareQuery {
 

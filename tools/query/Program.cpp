@@ -8,9 +8,12 @@
 #include "tools/system/StandardStreams.h"
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <filesystem>
 #include <iostream>
 #include <new>
 #include <optional>
+#include <system_error>
 
 namespace LagomareQuery {
 

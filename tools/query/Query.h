@@ -3,6 +3,8 @@
 #include "tools/query/Database.h"
 #include "tools/query/answer/AnswerSink.h"
 
+#include <string>
+
 namespace LagomareQuery {
 
 /// Runs the one statement in `sql`, which must select, and writes its rows to `sink` while it reads them. Throws

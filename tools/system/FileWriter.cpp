@@ -5,6 +5,7 @@
 #include "tools/system/StandardStreams.h"
 
 #include <cerrno>
+#include <utility>
 
 namespace LagomareTools {
 

@@ -3,6 +3,7 @@
 #include "tools/system/Failure.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <random>
 
 namespace LagomareTools {

@@ -3,7 +3,6 @@
 #include "tools/system/Failure.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstring>

@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 #include <initializer_list>
+#include <memory>
 #include <string>
 
 namespace LagomareTools {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "tools/query/access/AccessFile.h"
+#include <cstdint>
+#include <string>
 #include <vector>
 
 namespace LagomareQuery {

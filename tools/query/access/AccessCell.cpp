@@ -2,7 +2,10 @@
 
 #include "tools/query/access/AccessLongValue.h"
 #include "tools/query/access/AccessNumber.h"
+#include <cstdint>
 #include <cstring>
+#include <string>
+#include <vector>
 
 namespace LagomareQuery {
 

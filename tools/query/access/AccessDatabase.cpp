@@ -2,6 +2,10 @@
 
 #include "tools/query/access/AccessModule.h"
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 namespace LagomareQuery {
 
 Database openAccessDatabase(const std::filesystem::path& file) {

@@ -3,8 +3,10 @@
 #include "tools/query/access/AccessBytes.h"
 #include "tools/query/access/AccessFormat.h"
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <string>
 
 namespace LagomareQuery {
 

@@ -1,6 +1,7 @@
 #include "tools/query/access/AccessLongValue.h"
 
 #include <set>
+#include <string>
 
 namespace LagomareQuery {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/query/access/AccessRow.h"
+#include <cstdint>
 #include <vector>
 
 namespace LagomareQuery {

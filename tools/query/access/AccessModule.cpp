@@ -4,9 +4,13 @@
 #include "tools/query/access/AccessCell.h"
 #include "tools/query/access/AccessScan.h"
 #include "tools/query/sqlite/Sqlite.h"
+#include <cstdint>
+#include <exception>
 #include <memory>
 #include <new>
 #include <optional>
+#include <string>
+#include <utility>
 
 namespace LagomareQuery {
 

@@ -2,6 +2,7 @@
 
 #include "tools/query/access/AccessCatalog.h"
 #include <sqlite3.h>
+#include <vector>
 
 namespace LagomareQuery {
 

@@ -1,7 +1,6 @@
 #include "tools/query/access/AccessNumber.h"
 
 #include "tools/query/Calendar.h"
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>

@@ -2,6 +2,9 @@
 
 #include "tools/query/access/AccessBytes.h"
 
+#include <cstdint>
+#include <string>
+
 namespace LagomareQuery {
 
 /// Returns the double with the same shortest text: 0.1 for the single 0.1, not 0.10000000149011612.

@@ -1,5 +1,7 @@
 #include "tools/query/access/AccessRecord.h"
 
+#include <string>
+
 namespace LagomareQuery {
 
 namespace {

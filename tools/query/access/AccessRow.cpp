@@ -1,5 +1,7 @@
 #include "tools/query/access/AccessRow.h"
 
+#include <string>
+
 namespace LagomareQuery {
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include "tools/query/access/AccessFile.h"
 
+#include <cstdint>
+
 namespace LagomareQuery {
 
 /// The place of a row: a page and one of its slots.

@@ -2,6 +2,8 @@
 
 #include "tools/query/access/AccessColumn.h"
 
+#include <vector>
+
 namespace LagomareQuery {
 
 /// What a row must look like, depending on how many columns the table had when the row was written.

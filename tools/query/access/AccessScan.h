@@ -2,6 +2,9 @@
 
 #include "tools/query/access/AccessRecord.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace LagomareQuery {
 
 /// Reads the rows of a table in stored order: by page, then by slot. There can be several scans of one table.

@@ -2,6 +2,7 @@
 
 #include "tools/query/access/AccessUsageMap.h"
 #include <algorithm>
+#include <utility>
 
 namespace LagomareQuery {
 

@@ -4,6 +4,10 @@
 #include "tools/query/access/AccessRow.h"
 #include "tools/query/access/AccessRowShape.h"
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 namespace LagomareQuery {
 
 /// A table's definition.

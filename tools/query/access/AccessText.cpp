@@ -1,6 +1,7 @@
 #include "tools/query/access/AccessText.h"
 
 #include <array>
+#include <cstdint>
 
 namespace LagomareQuery {
 

@@ -2,6 +2,8 @@
 
 #include "tools/query/access/AccessBytes.h"
 
+#include <string>
+
 namespace LagomareQuery {
 
 /// Appends a text of Access 2000 and later, converted to UTF-8. It is stored in UTF-16, little-endian, or compressed:

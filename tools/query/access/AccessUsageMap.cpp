@@ -1,5 +1,8 @@
 #include "tools/query/access/AccessUsageMap.h"
 
+#include <string>
+#include <utility>
+
 namespace LagomareQuery {
 
 namespace {

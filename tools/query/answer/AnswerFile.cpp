@@ -4,7 +4,12 @@
 #include "tools/system/Failure.h"
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <exception>
 #include <random>
+#include <string>
+#include <system_error>
+#include <utility>
 
 namespace LagomareQuery {
 

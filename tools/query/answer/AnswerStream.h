@@ -2,6 +2,8 @@
 
 #include "tools/query/answer/AnswerSink.h"
 
+#include <string_view>
+
 namespace LagomareQuery {
 
 /// Writes answers to standard output. After the rows of each answer comes an end line, which begins with a byte that no

@@ -1,6 +1,5 @@
 #include "tools/query/answer/NumberText.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>

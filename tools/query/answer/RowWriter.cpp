@@ -3,6 +3,7 @@
 #include "tools/query/answer/NumberText.h"
 #include "tools/system/Utf8.h"
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <new>
 

@@ -2,6 +2,7 @@
 
 #include "tools/query/answer/AnswerBuffer.h"
 #include <sqlite3.h>
+#include <string_view>
 
 namespace LagomareQuery {
 

@@ -1,5 +1,7 @@
 #include "tools/query/sqlite/Authorizer.h"
 
+#include <utility>
+
 namespace LagomareQuery {
 
 namespace {

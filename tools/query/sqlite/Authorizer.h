@@ -2,6 +2,9 @@
 
 #include "tools/query/sqlite/Select.h"
 
+#include <set>
+#include <string>
+
 namespace LagomareQuery {
 
 /// While this object lives, the connection compiles only statements that read.

@@ -1,5 +1,7 @@
 #include "tools/query/sqlite/PageCheck.h"
 
+#include <string_view>
+
 namespace LagomareQuery {
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "tools/query/sqlite/Sqlite.h"
 #include <set>
+#include <string>
 
 namespace LagomareQuery {
 

@@ -4,6 +4,8 @@
 #include "tools/system/Failure.h"
 #include "tools/system/FileStamp.h"
 #include <array>
+#include <string>
+#include <system_error>
 
 namespace LagomareQuery {
 

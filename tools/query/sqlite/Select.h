@@ -2,6 +2,8 @@
 
 #include "tools/query/sqlite/Sqlite.h"
 #include <set>
+#include <string>
+#include <string_view>
 
 namespace LagomareQuery {
 

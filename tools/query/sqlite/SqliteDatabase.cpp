@@ -4,7 +4,14 @@
 #include "tools/query/sqlite/PrivateCopy.h"
 #include "tools/query/sqlite/WriteAheadLog.h"
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
 
 namespace LagomareQuery {
 

@@ -2,6 +2,8 @@
 
 #include "tools/query/Database.h"
 
+#include <filesystem>
+
 namespace LagomareQuery {
 
 /// Opens a SQLite file for reading. Creates no files beside it, not even in write-ahead mode. If there are changes in a

@@ -2,6 +2,7 @@
 
 #include "tools/query/QueryError.h"
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 namespace LagomareQuery {

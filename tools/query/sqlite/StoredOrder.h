@@ -2,6 +2,10 @@
 
 #include "tools/query/sqlite/Select.h"
 
+#include <memory>
+#include <set>
+#include <string>
+
 namespace LagomareQuery {
 
 /// A compiled query that reads each table in stored order, by rowid. The order of rows has a meaning for the importer,

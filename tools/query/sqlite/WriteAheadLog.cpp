@@ -1,6 +1,7 @@
 #include "tools/query/sqlite/WriteAheadLog.h"
 
 #include "tools/query/QueryError.h"
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <fstream>

@@ -10,7 +10,11 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <memory>
 #include <poll.h>
+#include <string>
+#include <string_view>
+#include <vector>
 #ifdef __linux__
 #include <sys/prctl.h>
 #endif

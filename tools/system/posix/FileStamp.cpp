@@ -1,5 +1,7 @@
 #include "tools/system/FileStamp.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace LagomareTools {

@@ -1,5 +1,8 @@
 #include "tools/system/Files.h"
 
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
 #include <string>
 #include <unistd.h>
 

@@ -4,6 +4,9 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 namespace LagomareTools {
 

@@ -2,6 +2,9 @@
 
 #include "tools/system/Failure.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace LagomareTools {
 
 std::filesystem::path programPath() {
