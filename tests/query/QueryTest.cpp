@@ -26,14 +26,14 @@ void runSql(const std::string& database, const std::string& sql) {
       << sqlite3_errmsg(connection.get());
 }
 
-int statusOfChild(const std::function<void()>& body, rusage* usage) {
+int statusOfChild(const std::function<void()>& body) {
   const pid_t child = fork();
   if (child == 0) {
     body();
     _exit(0);
   }
   int status = -1;
-  wait4(child, &status, 0, usage);
+  waitpid(child, &status, 0);
   return status;
 }
 

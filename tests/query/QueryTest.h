@@ -4,7 +4,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/resource.h>
 #include <vector>
 
 namespace LagomareQuery {
@@ -16,7 +15,7 @@ void writeFile(const std::filesystem::path& file, const std::string& content);
 void runSql(const std::string& database, const std::string& sql);
 
 /// Runs `body` in a process of its own and returns how that ended, as waitpid() tells it.
-[[nodiscard]] int statusOfChild(const std::function<void()>& body, rusage* usage = nullptr);
+[[nodiscard]] int statusOfChild(const std::function<void()>& body);
 
 /// Each test in a working directory of its own, which goes with it.
 class QueryTest : public testing::Test {
