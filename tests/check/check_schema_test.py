@@ -45,7 +45,13 @@ with tempfile.TemporaryDirectory() as folder:
         counts = {severity: sum(fault["severity"] == severity for fault in document["faults"])
                   for severity in ("error", "warning", "note")}
         assert list(counts.values()) == [document["errors"], document["warnings"], document["notes"]], counts
+    fault = next(fault for fault in faulty["faults"] if fault.get("table") == "ResEvap")
+    assert [fault[name] for name in ("code", "row", "rows", "id", "element", "column", "value")] == [
+        "not-a-number", 9, 1, 1, "Três Marias", "Evap", "FF"], fault
     assert {"table": "Other", "columns": None} in faulty["notRead"], faulty["notRead"]
+    assert [(entry["table"], *entry["columns"]) for entry in sound["notRead"]] == [
+        ("LgmVazNat", "Data"), ("Tk_Lnk_FEA", "Cmin"), ("LgmDemDemSC", "Data"), ("LgmResEvap", "Mes"),
+        ("LgmResVmetaSC", "Data")], sound["notRead"]
     assert sound["project"].endswith(".db"), sound["project"]
     refuse(sound, lambda document: document.pop("tables"))
     refuse(sound, lambda document: document.update(more=1))

@@ -54,13 +54,13 @@ TEST_F(OutputsTest, WhenOneFileCannotBeReplacedTheOthersAreNotEither) {
   writeFile("old.geojson", "old");
   fs::create_directory("tables");
   // Late, when all that can be checked before the import has been checked.
-  const std::string script = "mkdir -p \"${0%/*}/new.json\"; answer \"$@\"";
+  const std::string script = "mkdir -p \"${0%/*}/tables/curves.csv\"; answer \"$@\"";
   const Ending ending = import({"basin.db", "--query-executable", executable(script), "--csv", "tables", "--geojson",
                                 "old.geojson", "--json", "new.json"});
   EXPECT_EQ(ending.exitCode, 1);
-  EXPECT_THAT(ending.err, HasSubstr("cannot write new.json: Is a directory"));
+  EXPECT_THAT(ending.err, HasSubstr("cannot write tables/curves.csv: Is a directory"));
   EXPECT_EQ(readFile("old.geojson"), "old");
-  EXPECT_TRUE(fs::is_empty("tables"));
+  EXPECT_FALSE(fs::exists("new.json") || fs::exists("tables/elements.csv"));
 }
 
 TEST_F(OutputsTest, AFileThatGrowsTooLargeIsAnError) {

@@ -62,6 +62,13 @@ TEST_F(ExportTest, OddValuesStayValid) {
   EXPECT_THAT(readFile("tables/series.csv"), HasSubstr(",2000-01-01,\r\n"));
 }
 
+TEST_F(ExportTest, TheReportShowsTheFiguresOfAReservoir) {
+  EXPECT_EQ(import({project(), "--quiet", "--no-check", "--html", "report.html"}).exitCode, 0);
+  EXPECT_THAT(readFile("report.html"),
+              HasSubstr("[[\"Maximum volume\",\"100.5 hm³\"],[\"Minimum volume\",\"10 hm³\"],[\"Initial volume\",\"50 "
+                        "hm³\"],[\"Priority\",\"7\"],[\"Priority by state\",\"7, 8\"],"));
+}
+
 TEST_F(ExportTest, CsvIsForProgramsOrForBrazilianSpreadsheets) {
   project("update Tk_Lnk_FEA set Nome = 'C; d, e' where UID = 3");
   EXPECT_EQ(import({"basin.db", "--quiet", "--csv", "tables"}).exitCode, 0);

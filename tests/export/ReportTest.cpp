@@ -1,6 +1,7 @@
 #include "model/ElementFactory.h"
 #include "tools/export/report/HtmlText.h"
 #include "tools/export/report/LabelPlacer.h"
+#include "tools/export/report/LinkLine.h"
 #include "tools/export/report/ReportParts.h"
 
 #include <cmath>
@@ -13,6 +14,7 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace LagomareTools;
@@ -68,6 +70,11 @@ TEST(ReportTest, TheMapIsTrueToScaleAndLeavesOutWhatWouldShrinkIt) {
   // Two degrees of longitude at 60.5 degrees south are as long as 0.985 degrees of latitude.
   EXPECT_NEAR(at(1).x - at(0).x, 0.985 * (at(2).y - at(0).y), 0.5);
   EXPECT_NEAR((at(2).y - at(0).y) * map.kilometresPerUnit(), 111, 1);
+}
+
+TEST(ReportTest, AnArrowLiesOnTheRightOfALinkThatIsBowedThere) {
+  const MapPoint arrow = LinkLine({10, 20}, {50, 20}, 1).at(0.5);
+  EXPECT_EQ(std::pair(arrow.x, arrow.y), std::pair(30.0, 36.0));
 }
 
 TEST(ReportTest, LabelsDoNotBuryEachOther) {

@@ -31,6 +31,8 @@ TEST_F(ExecutableSourceTest, StartsTheExecutableByItsOwnPathWithTheArgumentsUnch
   EXPECT_THAT(readFile("calls"),
               StartsWith(outside + "/own query|" + outside + "/basin.db|select count(*) from DefGerais|0|"));
   EXPECT_THAT(readFile("calls"), HasSubstr("|select NumPto, Valor from LgmVazNat |1|"));
+  const std::string again = "ulimit -n 16; exec '" LAGOMARE "' import basin.db --query-executable 'own query'";
+  EXPECT_EQ(run({"/bin/sh", "-c", again}).exitCode, 0); // no query leaves a descriptor open
 }
 
 TEST_F(ExecutableSourceTest, AnAnswerThatWasNotWrittenIsAnError) {

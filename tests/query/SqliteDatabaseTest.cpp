@@ -2,7 +2,6 @@
 
 #include "tests/query/QueryTest.h"
 #include "tools/query/Program.h"
-#include "tools/query/QueryError.h"
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -122,14 +121,6 @@ TEST_F(SqliteDatabaseTest, AFolderThatMayOnlyBeReadIsEnough) {
     fs::remove("query-result.txt");
   }
   fs::permissions("project", fs::perms::owner_all);
-}
-
-TEST_F(SqliteDatabaseTest, ALockedDatabaseAndAChangedOneAreErrors) {
-  runSql("project/p.db", std::string("PRAGMA journal_mode = WAL;") + thousandRows);
-  const Database database = openSqliteDatabase("project/p.db");
-  EXPECT_NO_THROW(requireUnchanged(database));
-  runSql("project/p.db", "DELETE FROM t; VACUUM");
-  EXPECT_THROW(requireUnchanged(database), QueryError);
 }
 
 TEST_F(SqliteDatabaseTest, AnyNameCanBeOpened) {

@@ -6,7 +6,8 @@ using namespace LagomareTools;
 
 TEST(TextTest, PlainTextIsUtf8WithPlainBlanks) {
   EXPECT_EQ(plainText("Açude\xC2\xA0Velho\r\x1B\xC2\x9B"), "Açude Velho   ");
-  EXPECT_EQ(plainText("\xE7\xC0\xAF\xED\xA0\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD");
+  EXPECT_EQ(plainText("\xE7\xC0\xAF\xED\xA0\x80|\xE0\x80\xAF"),
+            "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD|\uFFFD\uFFFD\uFFFD");
   EXPECT_EQ(plainText("\xF4\x8F\xBF\xBF|\xF4\x90\x80\x80|\xE2\x82"),
             "\U0010FFFF|\uFFFD\uFFFD\uFFFD\uFFFD|\uFFFD\uFFFD");
 }
