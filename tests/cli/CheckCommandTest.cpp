@@ -27,7 +27,8 @@ TEST_F(CheckCommandTest, TellsWhereEachOfTenFaultsIsAndHowToMendIt) {
       "insert into LgmVazNat values (77, null, 1); update LgmLnkCmaxSC set Valor = '12,5';"
       "insert into Tk_Pas_FEA values (21, 'Dois', 1, 2); update Tk_Res_FEA set VolIni = 5, Nome = 'A' where NumPonto = "
       "1;"
-      "update Tk_Dem_FEA set NumPonto = '' where NumPonto = 12; insert into LgmLnkCmaxSC values (2, 1, 9);");
+      "update Tk_Dem_FEA set NumPonto = '' where NumPonto = 12; insert into LgmLnkCmaxSC values (2, 1, 9);"
+      "update Tk_Dem_FEA set Coord_X = 8000000, Coord_Y = 520000 where NumPonto = 11");
   const Ending ending = check({"basin.db"});
   EXPECT_EQ(ending.exitCode, 1);
   EXPECT_EQ(ending.err, "");
@@ -43,6 +44,7 @@ TEST_F(CheckCommandTest, TellsWhereEachOfTenFaultsIsAndHowToMendIt) {
         "LgmLnkCmaxSC               2           1           1\n",
         "Tk_Pas_FEA, row 2, id 21: ", "Tk_Res_FEA, row 1, id 1 (A): minimum 10, initial 5, maximum 100.5\n",
         "Tk_Dem_FEA, row 2, column NumPonto: an empty field stands where an id must stand\n",
+        "-42 degrees; the two may be in each other's place\n",
         "  To mend: Write the number with a decimal point, without thousands separators and without a unit.\n",
         "LgmVazNat                 13          12           1\n"})
     EXPECT_THAT(ending.out, HasSubstr(line));

@@ -86,6 +86,15 @@ TEST_F(SqliteDamageTest, ACallOfOneQueryChecksTheTablesThatItReads) {
        {"SELECT count(*) FROM t", "SELECT a FROM v", "SELECT u.a FROM u WHERE u.a IN (SELECT a FROM t)"})
     EXPECT_NE(refusal("damaged.db", sql).find("the database is damaged"), std::string::npos) << sql;
   EXPECT_EQ(answer("damaged.db", "SELECT count(*) FROM u"), "300 .\n");
+  // The same with a log, which is read from a copy.
+  const Connection writer = openConnection("whole.db", SQLITE_OPEN_READWRITE);
+  const char* const change = "PRAGMA journal_mode = WAL; UPDATE u SET a = 0 WHERE a = 1";
+  ASSERT_EQ(sqlite3_exec(writer.get(), change, nullptr, nullptr, nullptr), SQLITE_OK);
+  bytes = contentOf("whole.db");
+  --bytes[leaf + 4];
+  writeFile("damaged.db", bytes);
+  fs::copy_file("whole.db-wal", "damaged.db-wal");
+  EXPECT_NE(refusal("damaged.db", "SELECT count(*) FROM t").find("the database is damaged"), std::string::npos);
 }
 
 TEST_F(SqliteDamageTest, ALogIsTakenUpToATornTailAndNoFurther) {
