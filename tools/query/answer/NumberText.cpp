@@ -31,7 +31,8 @@ char* writeTenThousandths(char* to, std::int64_t value) {
     return to;
   *to++ = '.';
   const auto decimals = static_cast<unsigned>(magnitude % 10000);
-  for (const unsigned digit : {decimals / 1000, decimals / 100 % 10, decimals / 10 % 10, decimals % 10})
+  const unsigned digits[] = {decimals / 1000, decimals / 100 % 10, decimals / 10 % 10, decimals % 10};
+  for (const unsigned digit : digits)
     *to++ = static_cast<char>('0' + digit);
   while (to[-1] == '0')
     --to;
