@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <initializer_list>
 #include <limits>
 
 namespace LagomareQuery {
