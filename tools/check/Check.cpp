@@ -40,7 +40,7 @@ void checkSize(Inspection& inspection) {
     return;
   Lagomare::SizeGuard guard(*makeScenario(inspection.settings));
   for (const auto& [kind, type] : elementTypes) {
-    const auto isOfKind = [kind = kind](const auto& entry) { return entry.second.kind == kind; };
+    const auto isOfKind = [wanted = kind](const auto& entry) { return entry.second.kind == wanted; };
     const auto& [nodes, links] = std::tie(inspection.elements.nodes, inspection.elements.links);
     const auto count =
         std::count_if(nodes.begin(), nodes.end(), isOfKind) + std::count_if(links.begin(), links.end(), isOfKind);
@@ -49,8 +49,8 @@ void checkSize(Inspection& inspection) {
     } catch (const std::length_error&) {
       inspection.findings.add(
           Code::tooManyValues, Place{inspection.schema.tables.front().name},
-          [&, kind = kind] {
-            return fmt::format("{} elements of the kind {} in {} hydrological states", count, nameOf(kind),
+          [&, wanted = kind] {
+            return fmt::format("{} elements of the kind {} in {} hydrological states", count, nameOf(wanted),
                                inspection.settings.numOfStates);
           },
           static_cast<std::size_t>(kind));

@@ -77,8 +77,9 @@ void readNode(TableRows& rows, Elements& elements) {
   if (!isNew && known->second.kind == *kind)
     return reportRepeated(rows, known->second);
   if (!isNew)
-    return rows.add(Code::idOfTwoNodes, rows.place(),
-                    [&] { return std::string("a ") + nameOf(*kind) + " has the id of " + described(known->second); });
+    return rows.add(Code::idOfTwoNodes, rows.place(), [&, &other = known->second] {
+      return std::string("a ") + nameOf(*kind) + " has the id of " + described(other);
+    });
   rows.take();
   reportWrapped(rows, *id);
   known->second.utmX = numberOf(rows, Meaning::easting);

@@ -68,8 +68,8 @@ void checkNames(Findings& findings, const Rows& rows) {
     }
     const auto [first, isNew] = known.try_emplace(element.name, id);
     if (!isNew)
-      findings.add(Code::nameRepeated, placeOf(element, id), [&element = element, &other = *first] {
-        return fmt::format("{} {} has the same name", element.kind == Kind::link ? "link" : "node", other.second);
+      findings.add(Code::nameRepeated, placeOf(element, id), [&named = element, &other = *first] {
+        return fmt::format("{} {} has the same name", named.kind == Kind::link ? "link" : "node", other.second);
       });
   }
 }
