@@ -93,6 +93,7 @@ bool isOfOtherDialect(Inspection& inspection) {
   inspection.findings.add(Code::tableMissing, Place{wanted}, [&] {
     return fmt::format("there is no table {}, but the table {} of the dialect {}", wanted, held, nameOf(other));
   });
+  inspection.listing.reset(); // all its tables would be told as not read
   return true;
 }
 

@@ -78,7 +78,8 @@ std::string textOf(const CheckResult& result, const std::string& project, bool l
     text += textOfCode(begin, end, listsAll);
     begin = end;
   }
-  text += tablesText(result);
+  if (!result.tables.empty())
+    text += tablesText(result);
   return result.notRead && !result.notRead->empty() ? text + notReadText(*result.notRead) : text;
 }
 
