@@ -3,37 +3,18 @@
 usage: check_schema_test.py LAGOMARE SCHEMA EXAMPLES
 """
 
-import copy
-import json
 import pathlib
-import sqlite3
-import subprocess
 import sys
 import tempfile
 
-import jsonschema
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "support"))
+from schema import SchemaTest  # noqa: E402
 
-lagomare, schema_file, examples = sys.argv[1:]
-schema = json.loads(pathlib.Path(schema_file).read_text(encoding="utf-8"))
-jsonschema.Draft202012Validator.check_schema(schema)
-validator = jsonschema.Draft202012Validator(schema)
+test = SchemaTest(*sys.argv[1:])
 
 
 def checked(folder, dialect, change, exit_code):
-    database = pathlib.Path(folder, f"{dialect}-{exit_code}.db")
-    connection = sqlite3.connect(database)
-    text = pathlib.Path(examples, f"sao-francisco-{dialect}.sql").read_text(encoding="utf-8")
-    connection.executescript(text + change)
-    connection.close()
-    ending = subprocess.run([lagomare, "check", "--format", "json", database], stdout=subprocess.PIPE)
-    assert ending.returncode == exit_code, ending
-    return json.loads(ending.stdout)
-
-
-def refuse(document, change):
-    spoiled = copy.deepcopy(document)
-    change(spoiled)
-    assert not validator.is_valid(spoiled), "the schema lets this pass"
+    return test.output(folder, ("check", "--format", "json"), dialect, change, exit_code)
 
 
 with tempfile.TemporaryDirectory() as folder:
@@ -41,7 +22,6 @@ with tempfile.TemporaryDirectory() as folder:
     faulty = checked(folder, "2010", "create table Other (a, b); drop table Res; delete from Vazao where rowid = 5;"
                      "update Links set NoIni = ''; update ResEvap set Evap = x'ff' where rowid = 9;", 1)
     for document in (sound, faulty):
-        validator.validate(document)
         counts = {severity: sum(fault["severity"] == severity for fault in document["faults"])
                   for severity in ("error", "warning", "note")}
         assert list(counts.values()) == [document["errors"], document["warnings"], document["notes"]], counts
@@ -53,8 +33,8 @@ with tempfile.TemporaryDirectory() as folder:
         ("LgmVazNat", "Data"), ("Tk_Lnk_FEA", "Cmin"), ("LgmDemDemSC", "Data"), ("LgmResEvap", "Mes"),
         ("LgmResVmetaSC", "Data")], sound["notRead"]
     assert sound["project"].endswith(".db"), sound["project"]
-    refuse(sound, lambda document: document.pop("tables"))
-    refuse(sound, lambda document: document.update(more=1))
-    refuse(faulty, lambda document: document["faults"][0].pop("remedy"))
-    refuse(faulty, lambda document: document["faults"][0].update(row=0, rows=1))
-    refuse(faulty, lambda document: document["notRead"][0].update(columns=[]))
+    test.refuse(sound, lambda document: document.pop("tables"))
+    test.refuse(sound, lambda document: document.update(more=1))
+    test.refuse(faulty, lambda document: document["faults"][0].pop("remedy"))
+    test.refuse(faulty, lambda document: document["faults"][0].update(row=0, rows=1))
+    test.refuse(faulty, lambda document: document["notRead"][0].update(columns=[]))

@@ -82,8 +82,8 @@ void checkTable(Inspection& inspection, const LegacyTable& table) {
   }
 }
 
-/// A project of the other dialect lacks nearly every table of this one. Then one fault says all.
-bool isOfOtherDialect(Inspection& inspection) {
+/// A project of the other dialect lacks nearly every table of this one: then one fault says all. Returns whether it is.
+bool reportOtherDialect(Inspection& inspection) {
   const char* const wanted = inspection.schema.tables.front().name;
   const Dialect other = inspection.dialect == Dialect::of2010 ? Dialect::of2013 : Dialect::of2010;
   const char* const held = schemaOf(other).tables.front().name;
@@ -123,7 +123,7 @@ CheckResult checkProject(Lagomare::QuerySource& source, Dialect dialect, const s
                          const CheckProgress& progress) {
   const Schema& schema = schemaOf(dialect);
   Inspection inspection{source, dialect, schema, listTables(source), {}, {}, {}, {}, {}};
-  if (!isOfOtherDialect(inspection))
+  if (!reportOtherDialect(inspection))
     checkTables(inspection, progress);
   if (!lockFile.empty())
     inspection.findings.add(Code::lockFile, {}, [&] { return "there is " + lockFile; });

@@ -2,7 +2,6 @@
 
 #include "tools/system/Text.h"
 
-#include <array>
 #include <nlohmann/json.hpp>
 
 namespace LagomareTools {
@@ -14,8 +13,7 @@ using Json = nlohmann::ordered_json;
 constexpr int formatVersion = 1;
 
 Json jsonOf(const Fault& fault) {
-  constexpr std::array<const char*, 3> severities{"error", "warning", "note"};
-  Json json{{"code", fault.code}, {"severity", severities[static_cast<std::size_t>(fault.severity)]}};
+  Json json{{"code", fault.code}, {"severity", nameOf(fault.severity)}};
   const auto addText = [&json](const char* key, const std::string& text) {
     if (!text.empty())
       json[key] = text;

@@ -15,15 +15,6 @@ namespace {
 
 constexpr std::size_t mostOfEach = 10;
 
-const char* nameOf(Severity severity) {
-  constexpr std::array<const char*, 3> names{"error", "warning", "note"};
-  return names[static_cast<std::size_t>(severity)];
-}
-
-std::string counted(std::size_t count, const char* what) {
-  return fmt::format("{} {}{}", count == 0 ? "no" : std::to_string(count), what, count == 1 ? "" : "s");
-}
-
 std::string placeOf(const Fault& fault) {
   std::string place = fault.table;
   const auto add = [&place](const std::string& part) { place += (place.empty() ? "" : ", ") + part; };

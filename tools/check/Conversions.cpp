@@ -10,8 +10,6 @@ namespace LagomareTools {
 
 namespace {
 
-constexpr std::size_t idColumn = 0;
-
 std::size_t hashOf(std::string_view text) { return std::hash<std::string_view>()(text); }
 
 /// Whether what stands behind a number may mean something: not so blanks, and behind a whole number not a point and

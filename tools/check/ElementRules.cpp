@@ -44,7 +44,6 @@ void reportRepeated(TableRows& rows, const ElementRow& first) {
 }
 
 void reportWrapped(TableRows& rows, std::uint32_t id) {
-  constexpr std::size_t idColumn = 0;
   if (rows.at(idColumn)->find('-') < Lagomare::lengthOfUnsigned(*rows.at(idColumn)) && id != 0)
     rows.add(Code::idWrapped, rows.place(idColumn),
              [&] { return quoted(*rows.at(idColumn)) + " comes in as " + std::to_string(id); });

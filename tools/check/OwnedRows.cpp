@@ -11,8 +11,6 @@ namespace LagomareTools {
 
 namespace {
 
-constexpr std::size_t idColumn = 0;
-
 /// The database compares the state with 1, 2 and so on; whatever else stands there is none of them.
 unsigned stateOf(std::string_view text) {
   unsigned state = 0;

@@ -15,7 +15,7 @@ enum class Kind { reservoir, demand, junction, link };
 
 /// How the import makes something of a column, or what the column tells about its rows.
 enum class Type {
-  id,          ///< whole number; the first column of every table but the general settings
+  id,          ///< whole number, in idColumn
   text,        ///< taken as it stands
   wholeNumber, ///< unsigned, 32 bits; switches too
   number,
@@ -63,6 +63,9 @@ struct LegacyColumn {
   Type type;
   Meaning meaning = Meaning::none;
 };
+
+/// The column of the ids in every table but the general settings.
+constexpr std::size_t idColumn = 0;
 
 /// Which rows of a table the import takes, and as what.
 enum class Layout {

@@ -6,6 +6,7 @@
 #include "tools/cli/Progress.h"
 #include "tools/system/Failure.h"
 #include "tools/system/StandardStreams.h"
+#include "tools/system/Text.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -60,10 +61,6 @@ std::string checkCall(const ProjectOptions& options) {
   if (options.utmZone)
     call += "--utm-zone " + textOf(*options.utmZone) + ' ';
   return call + (options.project.front() == '-' ? "-- " : "") + shellWord(options.project);
-}
-
-std::string counted(std::size_t count, const char* what) {
-  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
 }
 
 } // namespace

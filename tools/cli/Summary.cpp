@@ -15,9 +15,8 @@ namespace {
 std::string line(const char* label, const std::string& text) { return fmt::format("  {:<22}{}\n", label, text); }
 
 std::string periodOf(const Interval& interval) {
-  const unsigned months = monthsOf(interval);
-  return fmt::format("{} to {} ({} month{})", isoMonth(interval.getBegin()), isoMonth(interval.getEnd()), months,
-                     months == 1 ? "" : "s");
+  return fmt::format("{} to {} ({})", isoMonth(interval.getBegin()), isoMonth(interval.getEnd()),
+                     counted(monthsOf(interval), "month"));
 }
 
 std::string textOf(const HydrologicalStateConfiguration& states) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -10,6 +11,12 @@ namespace LagomareTools {
 /// error: the import fails or is refused. warning: it succeeds, but something is not taken or stands elsewhere than it
 /// is meant. note: comes in as it stands, and looks wrong.
 enum class Severity { error, warning, note };
+
+/// "error", "warning" or "note".
+[[nodiscard]] inline const char* nameOf(Severity severity) {
+  constexpr std::array<const char*, 3> names{"error", "warning", "note"};
+  return names.at(static_cast<std::size_t>(severity));
+}
 
 /// Something wrong with a project. What does not apply is empty. Texts are UTF-8 with plain blanks.
 struct Fault {

@@ -77,4 +77,8 @@ std::string excerpt(const std::string& text) {
   return text.substr(0, length) + "...";
 }
 
+std::string counted(std::size_t count, const char* noun) {
+  return (count == 0 ? "no" : std::to_string(count)) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
 } // namespace LagomareTools

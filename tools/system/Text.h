@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -15,5 +16,8 @@ namespace LagomareTools {
 
 /// Returns the beginning of a text that may be very long, for messages.
 [[nodiscard]] std::string excerpt(const std::string& text);
+
+/// Returns "no links", "1 link", "2 links" for the noun "link".
+[[nodiscard]] std::string counted(std::size_t count, const char* noun);
 
 } // namespace LagomareTools

@@ -90,8 +90,4 @@ std::string shortened(const std::string& text, std::size_t length) {
   return text.substr(0, end).append(ellipsis);
 }
 
-std::string counted(std::size_t count, const char* singular, const char* plural) {
-  return fmt::format("{} {}", count, count == 1 ? singular : plural);
-}
-
 } // namespace LagomareTools

@@ -21,7 +21,4 @@ namespace LagomareTools {
 /// A text cut to so many characters, the last one an ellipsis.
 [[nodiscard]] std::string shortened(const std::string& text, std::size_t length);
 
-/// "1 link", "2 links".
-[[nodiscard]] std::string counted(std::size_t count, const char* singular, const char* plural);
-
 } // namespace LagomareTools

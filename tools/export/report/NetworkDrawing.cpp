@@ -4,6 +4,7 @@
 #include "tools/export/report/KindLook.h"
 #include "tools/export/report/LabelPlacer.h"
 #include "tools/export/report/LinkLine.h"
+#include "tools/system/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -170,7 +171,7 @@ void Drawing::writeMissing(std::size_t links) {
     text += missing.size() == 1 ? ", without a position or far from all others"
                                 : ", all without a position or far from all others";
   if (links != 0)
-    text += (missing.empty() ? "" : "; ") + counted(links, "link", "links") + " of which an end is not on it";
+    text += (missing.empty() ? "" : "; ") + counted(links, "link") + " of which an end is not on it";
   out_.write("<p class=\"remark\">" + htmlText(text) + ".</p>\n");
 }
 
@@ -183,7 +184,7 @@ network: {}, {}. The tables of elements say the same in words." data-room="{:.4g
 <g class="world">
 )svg",
       shownLevels(), symbolScale(1.0, labels_.room()) * 10, NetworkMap::width, map_.height(),
-      counted(network_.nodes.size(), "node", "nodes"), counted(network_.links.size(), "link", "links"), labels_.room(),
+      counted(network_.nodes.size(), "node"), counted(network_.links.size(), "link"), labels_.room(),
       map_.kilometresPerUnit()));
   for (const auto& [link, line] : lines_)
     writeLink(*link, line);

@@ -1,6 +1,7 @@
 #include "tools/export/report/HtmlText.h"
 #include "tools/export/report/KindLook.h"
 #include "tools/export/report/ReportParts.h"
+#include "tools/system/Text.h"
 
 #include <array>
 #include <cstdint>
@@ -22,7 +23,7 @@ std::string periodText(const Interval& interval) {
   if (interval.isEmpty())
     return "empty";
   return fmt::format("{} to {} ({})", monthText(interval.getBegin()), monthText(interval.getEnd()),
-                     counted(monthsOf(interval), "month", "months"));
+                     counted(monthsOf(interval), "month"));
 }
 
 std::string statesText(const HydrologicalStateConfiguration& states) {

@@ -19,18 +19,11 @@ namespace {
 
 constexpr std::size_t listed = 50; ///< faults of a code, at most
 
-struct SeverityWords {
-  const char* name; ///< also a class of the page's style
-  const char* plural;
-  const char* meaning;
-};
-
-const SeverityWords& wordsOf(Severity severity) {
-  static const std::array<SeverityWords, 3> words{
-      {{"error", "errors", "the project cannot be imported"},
-       {"warning", "warnings", "imported otherwise than it is meant, or not at all"},
-       {"note", "notes", "imported as it stands, and looks wrong"}}};
-  return words.at(static_cast<std::size_t>(severity));
+const char* meaningOf(Severity severity) {
+  constexpr std::array<const char*, 3> meanings{"the project cannot be imported",
+                                                "imported otherwise than it is meant, or not at all",
+                                                "imported as it stands, and looks wrong"};
+  return meanings.at(static_cast<std::size_t>(severity));
 }
 
 using Faults = std::vector<const Fault*>;
@@ -88,11 +81,11 @@ void writeFault(FileWriter& out, const Fault& fault, const Elements& elements, b
 
 void writeGroup(FileWriter& out, const Faults& faults, const Elements& elements) {
   const Fault& first = *faults.front();
-  const SeverityWords& words = wordsOf(first.severity);
+  const char* const severity = nameOf(first.severity); // also a class of the page's style
   const bool isOneRemedy =
       std::all_of(faults.begin(), faults.end(), [&first](const Fault* fault) { return fault->remedy == first.remedy; });
-  out.write(fmt::format("<details class=\"fault {}\"><summary><b>{}</b> <span>{}</span></summary>\n", words.name,
-                        htmlText(titleOf(first.code)), counted(faults.size(), words.name, words.plural)));
+  out.write(fmt::format("<details class=\"fault {}\"><summary><b>{}</b> <span>{}</span></summary>\n", severity,
+                        htmlText(titleOf(first.code)), counted(faults.size(), severity)));
   if (isOneRemedy && !first.remedy.empty())
     out.write("<p>To mend: " + htmlText(first.remedy) + "</p>\n");
   out.write(
@@ -133,10 +126,9 @@ void writeReportFaults(FileWriter& out, const std::optional<std::vector<Fault>>&
   for (const Severity severity : {Severity::error, Severity::warning, Severity::note}) {
     const auto count = std::count_if(faults->begin(), faults->end(),
                                      [severity](const Fault& fault) { return fault.severity == severity; });
-    const SeverityWords& words = wordsOf(severity);
     if (count != 0)
-      counts += fmt::format("<li class=\"{}\"><b>{}</b> <span>{}</span></li>\n", words.name,
-                            counted(static_cast<std::size_t>(count), words.name, words.plural), words.meaning);
+      counts += fmt::format("<li class=\"{}\"><b>{}</b> <span>{}</span></li>\n", nameOf(severity),
+                            counted(static_cast<std::size_t>(count), nameOf(severity)), meaningOf(severity));
   }
   out.write("<ul class=\"verdict\">\n" + counts + "</ul>\n<div class=\"faults\">\n");
   const Elements elements(network);
