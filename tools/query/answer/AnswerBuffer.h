@@ -12,15 +12,17 @@ public:
   /// `sink` must outlive the buffer.
   explicit AnswerBuffer(AnswerSink& sink) : sink_(sink) {}
 
-  /// Returns a buffer of at least `bytes` bytes, which must not be more than `largestRoom`. After writing to it, call
-  /// taken() with the end of the data.
-  [[nodiscard]] char* room([[maybe_unused]] std::size_t bytes) {
+  /// Returns a buffer of at least `bytes` bytes. After writing to it, call taken() with the end of the data.
+  [[nodiscard]] char* room(std::size_t bytes) {
     if (used_ >= blockSize)
       flush();
+    if (bytes > buffer_.size() - used_)
+      buffer_.resize(used_ + bytes);
     return buffer_.data() + used_;
   }
   void taken(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
-  static constexpr std::size_t largestRoom = std::size_t{128} * 1024;
+  /// What fits without growing the buffer.
+  static constexpr std::size_t usualRoom = std::size_t{128} * 1024;
 
   void flush() {
     sink_.write({buffer_.data(), used_});
@@ -32,7 +34,7 @@ private:
   static constexpr std::size_t blockSize = std::size_t{32} * 1024;
 
   AnswerSink& sink_;
-  std::vector<char> buffer_ = std::vector<char>(blockSize + largestRoom);
+  std::vector<char> buffer_ = std::vector<char>(blockSize + usualRoom);
   std::size_t used_ = 0;
 };
 
