@@ -5,12 +5,16 @@
 #include "tools/project/QueryRefused.h"
 #include "tools/system/Interruption.h"
 
+#include <csignal>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <string>
+#include <sys/resource.h>
 
 using namespace LagomareTools;
 using testing::AllOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -24,6 +28,19 @@ protected:
 
   static std::string answer(SessionSource& source, const std::string& sql) {
     return Lagomare::parseRows(*source.ask(sql, true)).at(7).at(0).at(1);
+  }
+
+  static std::string text(SessionSource& source, const std::string& sql, bool flag) {
+    return {std::istreambuf_iterator<char>(*source.ask(sql, flag)), {}};
+  }
+
+  /// A session that says how many queries it has answered.
+  static std::shared_ptr<SessionSource> countingSession() {
+    return session("n=0; while read -r flag sql; do n=$((n + 1)); case $sql in\n"
+                   "  refused) printf \"7 half .\\n\\004error: refusal $n\\n\";;\n"
+                   "  long) seq -f \"7 $n.%.0f .\" 50000; printf '\\004complete\\n';;\n"
+                   "  *) printf \"7 $n .\\n\\004complete\\n\";;\n"
+                   "esac; done");
   }
 };
 
@@ -44,6 +61,42 @@ TEST_F(SessionSourceTest, ARefusedOrUnreadAnswerDoesNotTouchTheNext) {
   static_cast<void>(source->ask("unread", false));
   static_cast<void>(source->ask("refused", false));
   EXPECT_EQ(answer(*source, "b\nc"), "1b_c");
+}
+
+TEST_F(SessionSourceTest, AQueryThatIsAskedAgainIsNotRunAgain) {
+  const auto source = countingSession();
+  EXPECT_EQ(answer(*source, "a"), "1");
+  EXPECT_EQ(answer(*source, "a"), "2");
+  source->keepAnswers();
+  EXPECT_EQ(answer(*source, "a"), "3");
+  const std::string longText = text(*source, "long", true);
+  EXPECT_THAT(longText, AllOf(StartsWith("7 4.1 .\n"), EndsWith("7 4.50000 .\n")));
+  static_cast<void>(source->ask("unread", false));
+  for (int i = 0; i < 2; ++i) // a refusal is not kept
+    EXPECT_THROW(static_cast<void>(text(*source, "refused", false)), QueryRefused);
+  EXPECT_EQ(answer(*source, "b"), "8");
+  static_cast<void>(source->ask("long", true)->get());
+  EXPECT_EQ(answer(*source, "a"), "3");
+  EXPECT_EQ(text(*source, "long", false), longText);
+  EXPECT_EQ(answer(*source, "unread"), "5");
+  EXPECT_EQ(answer(*source, "c"), "9");
+  EXPECT_EQ(answer(*source, "b"), "8");
+}
+
+TEST_F(SessionSourceTest, WithoutRoomForATemporaryFileAQueryIsRunAgain) {
+  const auto source = countingSession();
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+  rlimit usual{};
+  getrlimit(RLIMIT_FSIZE, &usual);
+  const rlimit small{100000, usual.rlim_max}; // bytes
+  setrlimit(RLIMIT_FSIZE, &small);
+  source->keepAnswers();
+  EXPECT_EQ(answer(*source, "a"), "1");
+  EXPECT_EQ(answer(*source, "a"), "1");
+  EXPECT_THAT(text(*source, "long", true), EndsWith("7 2.50000 .\n"));
+  EXPECT_THAT(text(*source, "long", true), EndsWith("7 3.50000 .\n"));
+  EXPECT_EQ(answer(*source, "a"), "4");
+  setrlimit(RLIMIT_FSIZE, &usual);
 }
 
 TEST_F(SessionSourceTest, AnAnswerWithoutItsEndLineIsNone) {

@@ -17,6 +17,7 @@ namespace {
 class OpenChannel {
 public:
   explicit OpenChannel(const Project& project) {
+    project.source()->keepAnswers();
     LagomareProjectManager::getInstance(project.path().u8string())->setSource(project.source());
   }
   ~OpenChannel() { LagomareProjectManager::cleanInstance(); }

@@ -17,6 +17,9 @@ class ProjectSource : public Lagomare::QuerySource {
 public:
   [[nodiscard]] std::unique_ptr<std::istream> ask(const std::string& sql, bool flag) final;
 
+  /// From now on keeps the answers for queries that are asked again, if the source sees one state of the project.
+  virtual void keepAnswers() {}
+
   /// The SQL that was asked last; empty before the first query.
   [[nodiscard]] const std::string& lastSql() const { return lastSql_; }
 

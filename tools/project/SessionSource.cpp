@@ -48,21 +48,38 @@ SessionSource::SessionSource(std::filesystem::path executable, const std::filesy
 
 std::unique_ptr<std::istream> SessionSource::start(const std::string& sql, bool flag) {
   skipRest();
+  if (kept_ && kept_->open(sql)) { // the flag changes nothing in an answer
+    rest_ = Rest::kept;
+    return std::make_unique<Answer>(*this);
+  }
+  if (kept_)
+    kept_->begin(sql);
   std::string line = (flag ? "1 " : "0 ") + sql;
   std::replace(line.begin(), line.end(), '\n', ' ');
   process_.write(line + '\n');
-  isAnswering_ = true;
+  rest_ = Rest::process;
   return std::make_unique<Answer>(*this);
 }
 
 std::string_view SessionSource::next() {
-  if (!isAnswering_)
+  switch (rest_) {
+  case Rest::process:
+    return nextFromProcess();
+  case Rest::kept:
+    return {block_.data(), kept_->read(block_.data(), block_.size())};
+  default:
     return {};
+  }
+}
+
+std::string_view SessionSource::nextFromProcess() {
   const std::size_t length = process_.read(block_.data(), block_.size());
   if (length == 0)
     failAsEnded();
   const std::string_view text(block_.data(), length);
   const std::size_t end = text.find(endMark);
+  if (kept_)
+    kept_->add(text.substr(0, end));
   if (end != std::string_view::npos)
     readEndLine(std::string(text.substr(end + 1)));
   return text.substr(0, end);
@@ -78,18 +95,20 @@ void SessionSource::readEndLine(std::string line) {
     line.append(more.data(), length);
   }
   line.pop_back();
-  isAnswering_ = false;
+  rest_ = Rest::none;
   if (line.compare(0, error.size(), error) == 0)
     throw QueryRefused(line.substr(error.size()));
   if (line != complete)
     failAsEnded();
+  if (kept_)
+    kept_->complete();
 }
 
 /// The end of an answer that nobody read to its end.
 void SessionSource::skipRest() {
   try {
-    while (!next().empty()) {
-    }
+    while (rest_ == Rest::process)
+      static_cast<void>(next());
   } catch (const QueryRefused&) {
     // Whoever asked for it does not want to know.
   }

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace LagomareTools {
+
+/// Keeps answers in a temporary file, so that a query that is asked again need not be run again. An import asks for the
+/// natural flows once for each kind of node. If there is no room for the file, nothing is kept.
+class AnswerStore {
+public:
+  /// `directory` must outlive the store. What is left of the file is removed with it.
+  explicit AnswerStore(const std::filesystem::path& directory);
+
+  /// Begins to keep the answer to a query, and forgets the one before if it was not completed.
+  void begin(const std::string& sql);
+  void add(std::string_view text);
+  /// From now on open() finds the answer.
+  void complete();
+
+  /// Opens the answer to a query. Returns false if there is none.
+  [[nodiscard]] bool open(const std::string& sql);
+  /// Reads more of the open answer. Returns how many bytes there are; 0 at the end. Throws Failure.
+  [[nodiscard]] std::size_t read(char* buffer, std::size_t size);
+
+private:
+  /// A part of the file, in bytes.
+  struct Part {
+    std::uint64_t begin = 0;
+    std::uint64_t size = 0;
+  };
+
+  std::fstream file_; ///< closed if there is no room for it
+  std::map<std::string, Part> answers_;
+  std::string sql_;
+  Part written_;
+  Part unread_;
+};
+
+} // namespace LagomareTools
