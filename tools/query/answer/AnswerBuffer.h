@@ -17,12 +17,10 @@ public:
     if (used_ >= blockSize)
       flush();
     if (bytes > buffer_.size() - used_)
-      buffer_.resize(used_ + bytes);
+      buffer_.resize(2 * (used_ + bytes));
     return buffer_.data() + used_;
   }
   void taken(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
-  /// What fits without growing the buffer.
-  static constexpr std::size_t usualRoom = std::size_t{128} * 1024;
 
   void flush() {
     sink_.write({buffer_.data(), used_});
@@ -30,11 +28,11 @@ public:
   }
 
 private:
-  /// Half the size of a pipe: while the reader takes one half, the other can be written.
-  static constexpr std::size_t blockSize = std::size_t{32} * 1024;
+  /// A large block seldom wakes the reader of a pipe, and a wake-up costs more than the copy of some thousand rows.
+  static constexpr std::size_t blockSize = std::size_t{256} * 1024;
 
   AnswerSink& sink_;
-  std::vector<char> buffer_ = std::vector<char>(blockSize + usualRoom);
+  std::vector<char> buffer_; // small for the small answers, of which a project has many
   std::size_t used_ = 0;
 };
 

@@ -15,7 +15,7 @@ constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
 constexpr std::string_view rowEnd = ".\n";     // the field that importers ignore
 constexpr std::ptrdiff_t usualNumberRoom = 32; // bytes
-constexpr std::size_t chunkBytes = AnswerBuffer::usualRoom / 4;
+constexpr std::size_t chunkBytes = std::size_t{32} * 1024;
 
 char* append(char* to, std::string_view bytes) { return std::copy(bytes.begin(), bytes.end(), to); }
 

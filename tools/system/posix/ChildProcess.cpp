@@ -55,6 +55,14 @@ struct Pipe {
   }
 };
 
+/// Lets the child write ahead of this process, where the system permits it.
+void enlarge(const Pipe& pipe) {
+#ifdef F_SETPIPE_SZ
+  constexpr int bytes = 1 << 20;
+  static_cast<void>(::fcntl(pipe.writer, F_SETPIPE_SZ, bytes));
+#endif
+}
+
 /// The end of a child interrupts a wait. It must not be ignored either, or nobody could learn of it.
 void listenToChildren() {
   struct sigaction action {};
@@ -137,9 +145,11 @@ void ChildProcess::State::start(const ChildCall& call) {
   Pipe startPipe;
   for (Pipe* pipe : {&errors, &startPipe})
     pipe->open();
-  if (call.hasPipes)
+  if (call.hasPipes) {
     for (Pipe* pipe : {&input, &output})
       pipe->open();
+    enlarge(output);
+  }
   const std::string name = call.executable.string();
   const std::vector<char*> arguments = pointersTo(name, call.words);
   const pid_t parent = ::getpid();
