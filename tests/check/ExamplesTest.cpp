@@ -1,6 +1,6 @@
 #include "check/MemoryProject.h"
-#include "tools/check/CheckResult.h"
-#include "tools/check/CheckText.h"
+#include "tools/check/result/CheckResult.h"
+#include "tools/check/result/CheckText.h"
 #include "tools/project/Dialect.h"
 
 #include <gmock/gmock.h>

@@ -3,7 +3,7 @@
 #include "access/QuerySource.h"
 #include "loader/SceneryProjectManagerRet.h"
 #include "tools/check/Check.h"
-#include "tools/check/CheckResult.h"
+#include "tools/check/result/CheckResult.h"
 #include "tools/project/Dialect.h"
 #include "tools/query/Database.h"
 #include "tools/query/sqlite/Sqlite.h"

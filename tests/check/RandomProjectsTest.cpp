@@ -11,9 +11,9 @@
 #include "model/Scenario.h"
 #include "model/Serie.h"
 #include "model/SerieType.h"
-#include "tools/check/CheckResult.h"
-#include "tools/check/CheckText.h"
-#include "tools/check/Tables.h"
+#include "tools/check/result/CheckResult.h"
+#include "tools/check/result/CheckText.h"
+#include "tools/check/tables/Tables.h"
 #include "tools/project/Dialect.h"
 #include "tools/project/Fault.h"
 

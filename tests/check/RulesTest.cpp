@@ -1,14 +1,13 @@
 #include "check/MemoryProject.h"
-#include "tools/check/CheckResult.h"
-#include "tools/check/CheckText.h"
-#include "tools/check/Rule.h"
+#include "tools/check/result/CheckResult.h"
+#include "tools/check/result/CheckText.h"
+#include "tools/check/result/Rule.h"
 #include "tools/project/Dialect.h"
 
 #include <gmock/gmock.h>
+#include <set>
 #include <string>
 #include <vector>
-
-#include <set>
 
 using namespace LagomareTools;
 using namespace testing;

@@ -3,8 +3,8 @@
 #include "loader/common/SizeGuard.h"
 #include "model/ExecutionContinuous.h"
 #include "model/PriorityScenario.h"
-#include "tools/check/Rules.h"
-#include "tools/check/TableRows.h"
+#include "tools/check/rules/Rules.h"
+#include "tools/check/rules/TableRows.h"
 
 #include <algorithm>
 #include <array>
@@ -85,7 +85,7 @@ void checkTable(Inspection& inspection, const LegacyTable& table) {
 /// A project of the other dialect lacks nearly every table of this one: then one fault says all. Returns whether it is.
 bool reportOtherDialect(Inspection& inspection) {
   const char* const wanted = inspection.schema.tables.front().name;
-  const Dialect other = inspection.dialect == Dialect::of2010 ? Dialect::of2013 : Dialect::of2010;
+  const Dialect other = otherThan(inspection.dialect);
   const char* const held = schemaOf(other).tables.front().name;
   if (!inspection.listing || findTable(*inspection.listing, wanted) != nullptr ||
       findTable(*inspection.listing, held) == nullptr)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "access/QuerySource.h"
-#include "tools/check/CheckResult.h"
+#include "tools/check/result/CheckResult.h"
 #include "tools/project/Dialect.h"
 
 #include <functional>

@@ -1,8 +1,8 @@
 #include "tools/cli/CheckCommand.h"
 
 #include "tools/check/Check.h"
-#include "tools/check/CheckJson.h"
-#include "tools/check/CheckText.h"
+#include "tools/check/result/CheckJson.h"
+#include "tools/check/result/CheckText.h"
 #include "tools/cli/Progress.h"
 #include "tools/system/Failure.h"
 #include "tools/system/StandardStreams.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/check/CheckResult.h"
+#include "tools/check/result/CheckResult.h"
 #include "tools/cli/Options.h"
 #include "tools/project/Project.h"
 
