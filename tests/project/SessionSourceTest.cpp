@@ -16,7 +16,6 @@ using namespace LagomareTools;
 using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 class SessionSourceTest : public CommandTest {
