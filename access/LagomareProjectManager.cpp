@@ -34,7 +34,7 @@ void LagomareProjectManager::cleanInstance() {
 LagomareProjectManager::LagomareProjectManager(std::string databaseFile) : databaseFilename(std::move(databaseFile)) {}
 
 LagomareProjectManager::~LagomareProjectManager() {
-  if (source != nullptr) // the files of these names are not the channel's
+  if (source_ != nullptr) // the files of these names are not the channel's
     return;
   static_cast<void>(std::remove(scriptFile.c_str())); // it may never have been written
   static_cast<void>(std::remove(fileResultQuery.c_str()));
@@ -48,7 +48,7 @@ void LagomareProjectManager::buildScript(const std::string& sql, bool flag) cons
 }
 
 void LagomareProjectManager::setSource(std::shared_ptr<Lagomare::QuerySource> querySource) {
-  source = std::move(querySource);
+  source_ = std::move(querySource);
 }
 
 QueryResult LagomareProjectManager::query(const std::string& sql, bool flag) const {
@@ -60,9 +60,9 @@ Lagomare::ValueResult LagomareProjectManager::queryValues(const std::string& sql
 }
 
 std::unique_ptr<std::istream> LagomareProjectManager::ask(const std::string& sql, bool flag) const {
-  if (source == nullptr)
+  if (source_ == nullptr)
     return runScript(sql, flag);
-  auto answer = source->ask(sql, flag);
+  auto answer = source_->ask(sql, flag);
   if (answer == nullptr || !answer->good()) // a file that cannot be opened would pass for an empty table
     throw std::runtime_error("LagomareProjectManager::query: the source gave no answer that can be read: " + sql);
   answer->exceptions(std::ios::badbit); // a stream by itself would take its buffer's exception for the end

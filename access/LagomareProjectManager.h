@@ -64,5 +64,5 @@ private:
 
   std::string databaseFilename;
   std::string apiExecutable;
-  std::shared_ptr<Lagomare::QuerySource> source; ///< null: the script
+  std::shared_ptr<Lagomare::QuerySource> source_; ///< null: the script
 };

@@ -1,5 +1,5 @@
 #include "model/ExecutionMethod.h"
 
-ExecutionMethod::ExecutionMethod(const Enum<ExecutionHorizon>& executionHorizon) : horizon(executionHorizon) {}
+ExecutionMethod::ExecutionMethod(const Enum<ExecutionHorizon>& executionHorizon) : horizon_(executionHorizon) {}
 
 ExecutionMethod::~ExecutionMethod() = default;

@@ -12,13 +12,13 @@ class TELU_QT_EXPORT ExecutionMethod {
 public:
   virtual ~ExecutionMethod();
 
-  [[nodiscard]] const Enum<ExecutionHorizon>& getHorizon() const { return horizon; }
+  [[nodiscard]] const Enum<ExecutionHorizon>& getHorizon() const { return horizon_; }
 
 protected:
   explicit ExecutionMethod(const Enum<ExecutionHorizon>& executionHorizon);
 
 private:
-  Enum<ExecutionHorizon> horizon;
+  Enum<ExecutionHorizon> horizon_;
 };
 
 class PriorityType : public Enum<ExecutionMethod> {

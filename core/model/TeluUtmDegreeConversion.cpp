@@ -43,18 +43,18 @@ constexpr std::array<double, 6> toGeographic{
 
 } // namespace
 
-unsigned TeluUtmDegreeConversion::zoneNumber = 23;
-Hemisphere TeluUtmDegreeConversion::zoneHemisphere = Hemisphere::South;
+unsigned TeluUtmDegreeConversion::zoneNumber_ = 23;
+Hemisphere TeluUtmDegreeConversion::zoneHemisphere_ = Hemisphere::South;
 
 void TeluUtmDegreeConversion::setZone(unsigned number, Hemisphere hemisphere) {
   if (number < 1 || number > 60)
     throw std::invalid_argument("TeluUtmDegreeConversion::setZone: invalid zone");
-  zoneNumber = number;
-  zoneHemisphere = hemisphere;
+  zoneNumber_ = number;
+  zoneHemisphere_ = hemisphere;
 }
 
 std::pair<double, double> TeluUtmDegreeConversion::utmToDegree(double x, double y) {
-  const double falseNorthing = zoneHemisphere == Hemisphere::South ? falseNorthingSouth : 0.0;
+  const double falseNorthing = zoneHemisphere_ == Hemisphere::South ? falseNorthingSouth : 0.0;
   const std::complex<double> plane((y - falseNorthing) / (centralScale * rectifyingRadius),
                                    (x - falseEasting) / (centralScale * rectifyingRadius));
   std::complex<double> sphere = plane;
@@ -66,7 +66,7 @@ std::pair<double, double> TeluUtmDegreeConversion::utmToDegree(double x, double 
   for (std::size_t j = 0; j < toGeographic.size(); ++j)
     latitude += toGeographic[j] * std::sin(2.0 * static_cast<double>(j + 1) * conformal);
 
-  const double centralMeridian = 6.0 * static_cast<double>(zoneNumber) - 183.0;
+  const double centralMeridian = 6.0 * static_cast<double>(zoneNumber_) - 183.0;
   const double fromCentral = std::atan2(std::sinh(sphere.imag()), std::cos(sphere.real()));
   return {centralMeridian + fromCentral * degreesPerRadian, latitude * degreesPerRadian};
 }

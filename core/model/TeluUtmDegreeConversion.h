@@ -19,6 +19,6 @@ public:
   static void setZone(unsigned number, Hemisphere hemisphere);
 
 private:
-  static unsigned zoneNumber;
-  static Hemisphere zoneHemisphere;
+  static unsigned zoneNumber_;
+  static Hemisphere zoneHemisphere_;
 };

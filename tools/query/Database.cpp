@@ -27,7 +27,7 @@ std::string firstBytes(const fs::path& file) {
   errno = 0;
   std::ifstream stream(file, std::ios::binary);
   if (!stream)
-    throw QueryError("the database '" + file.string() +
+    throw QueryError("the database '" + file.u8string() +
                      "' cannot be opened: " + std::generic_category().message(errno) + "; check that you may read it");
   std::array<char, jetSignature.size()> bytes{};
   stream.read(bytes.data(), bytes.size());
@@ -37,7 +37,7 @@ std::string firstBytes(const fs::path& file) {
 void requireOrdinaryFile(const fs::path& file) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
-  const std::string name = "the database '" + file.string() + "' ";
+  const std::string name = "the database '" + file.u8string() + "' ";
   if (status.type() == fs::file_type::not_found)
     throw QueryError(name + "does not exist; check its path");
   if (error)
