@@ -1,9 +1,11 @@
 #include "support/CommandTest.h"
 #include "support/Program.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,6 +36,23 @@ TEST_F(ImportCommandTest, TellsWhatWasFound) {
   EXPECT_THAT(import({project2010(), "--utm-zone", "24p"}).out,
               AllOf(HasSubstr("2010 (found"), HasSubstr("  24N\n"), HasSubstr("  none (Sem)\n")));
   EXPECT_EQ(import({"basin.db", "--quiet"}).out, "");
+}
+
+TEST_F(ImportCommandTest, RunsAQueryOnceThatTheLibraryAsksAgain) {
+  project();
+  fs::copy_file(LAGOMARE, "lagomare"); // it looks for the query executable beside itself
+  executable("tee \"${0%/*}/asked\" | answer \"$@\"", "lagomare-query");
+  EXPECT_EQ(run({fs::absolute("lagomare"), "import", "basin.db", "--no-check", "--json", "once.json"}).exitCode, 0);
+  std::istringstream lines(readFile("asked"));
+  std::vector<std::string> asked;
+  for (std::string line; std::getline(lines, line);)
+    asked.push_back(line.substr(2)); // behind the flag
+  EXPECT_THAT(asked, testing::Contains(HasSubstr("LgmVazNat")));
+  std::sort(asked.begin(), asked.end());
+  EXPECT_EQ(std::adjacent_find(asked.begin(), asked.end()), asked.end());
+  const std::string asksAgain = executable("answer \"$@\"");
+  ASSERT_EQ(import({"basin.db", "--json", "again.json", "--query-executable", asksAgain}).exitCode, 0);
+  EXPECT_EQ(readFile("once.json"), readFile("again.json"));
 }
 
 TEST_F(ImportCommandTest, RefusedAndInvalidProjectsHaveCodesAndShortObjectsOfTheirOwn) {
