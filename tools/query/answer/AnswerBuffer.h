@@ -23,7 +23,8 @@ public:
   void taken(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
 
   void flush() {
-    sink_.write({buffer_.data(), used_});
+    if (used_ > 0) // an empty buffer has no address to write from
+      sink_.write({buffer_.data(), used_});
     used_ = 0;
   }
 
