@@ -8,33 +8,38 @@
 
 namespace LagomareTools {
 
-AnswerStore::AnswerStore(const std::filesystem::path& directory) {
+void AnswerStore::keepIn(const std::filesystem::path& directory) {
+  if (file_.is_open())
+    return;
   const std::filesystem::path path = directory / "answers";
   file_.rdbuf()->pubsetbuf(nullptr, 0); // blocks come and go as they are
   file_.open(path, std::ios::in | std::ios::out | std::ios::trunc | std::ios::binary);
-  std::error_code stillOpen; // some systems remove no open file; there it goes with its directory
+  std::error_code stillOpen;
   std::filesystem::remove(path, stillOpen);
 }
 
 void AnswerStore::begin(const std::string& sql) {
+  isKeeping_ = file_.is_open();
   sql_ = sql;
   written_.size = 0;
   file_.seekp(static_cast<std::streamoff>(written_.begin));
 }
 
 void AnswerStore::add(std::string_view text) {
-  if (!file_.is_open())
+  if (!isKeeping_)
     return;
   file_.write(text.data(), static_cast<std::streamsize>(text.size()));
   written_.size += text.size();
   if (!file_) {
     answers_.clear();
+    written_ = {};
+    isKeeping_ = false;
     file_.close();
   }
 }
 
 void AnswerStore::complete() {
-  if (!file_.is_open())
+  if (!isKeeping_)
     return;
   answers_[sql_] = written_;
   written_.begin += written_.size;

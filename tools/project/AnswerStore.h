@@ -11,11 +11,12 @@
 namespace LagomareTools {
 
 /// Keeps answers in a temporary file, so that a query that is asked again need not be run again. An import asks for the
-/// natural flows once for each kind of node. If there is no room for the file, nothing is kept.
+/// natural flows once for each kind of node. Without a file, or without room for it, nothing is kept.
 class AnswerStore {
 public:
-  /// `directory` must outlive the store. What is left of the file is removed with it.
-  explicit AnswerStore(const std::filesystem::path& directory);
+  /// Makes the file if there is none. It is removed at once or, on a system that cannot remove open files, with the
+  /// directory, which must outlive the store. An answer that has begun before is not kept.
+  void keepIn(const std::filesystem::path& directory);
 
   /// Begins to keep the answer to a query, and forgets the one before if it was not completed.
   void begin(const std::string& sql);
@@ -35,9 +36,10 @@ private:
     std::uint64_t size = 0;
   };
 
-  std::fstream file_; ///< closed if there is no room for it
+  std::fstream file_; ///< closed if nothing is kept
   std::map<std::string, Part> answers_;
   std::string sql_;
+  bool isKeeping_ = false; ///< whether there is a file for the answer that has begun
   Part written_;
   Part unread_;
 };

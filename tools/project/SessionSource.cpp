@@ -48,16 +48,15 @@ SessionSource::SessionSource(std::filesystem::path executable, const std::filesy
 
 std::unique_ptr<std::istream> SessionSource::start(const std::string& sql, bool flag) {
   skipRest();
-  if (kept_ && kept_->open(sql)) { // the flag changes nothing in an answer
+  if (kept_.open(sql)) { // the flag changes nothing in an answer
     rest_ = Rest::kept;
-    return std::make_unique<Answer>(*this);
+  } else {
+    kept_.begin(sql);
+    std::string line = (flag ? "1 " : "0 ") + sql;
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    process_.write(line + '\n');
+    rest_ = Rest::process;
   }
-  if (kept_)
-    kept_->begin(sql);
-  std::string line = (flag ? "1 " : "0 ") + sql;
-  std::replace(line.begin(), line.end(), '\n', ' ');
-  process_.write(line + '\n');
-  rest_ = Rest::process;
   return std::make_unique<Answer>(*this);
 }
 
@@ -66,7 +65,7 @@ std::string_view SessionSource::next() {
   case Rest::process:
     return nextFromProcess();
   case Rest::kept:
-    return {block_.data(), kept_->read(block_.data(), block_.size())};
+    return {block_.data(), kept_.read(block_.data(), block_.size())};
   default:
     return {};
   }
@@ -78,8 +77,7 @@ std::string_view SessionSource::nextFromProcess() {
     failAsEnded();
   const std::string_view text(block_.data(), length);
   const std::size_t end = text.find(endMark);
-  if (kept_)
-    kept_->add(text.substr(0, end));
+  kept_.add(text.substr(0, end));
   if (end != std::string_view::npos)
     readEndLine(std::string(text.substr(end + 1)));
   return text.substr(0, end);
@@ -100,8 +98,7 @@ void SessionSource::readEndLine(std::string line) {
     throw QueryRefused(line.substr(error.size()));
   if (line != complete)
     failAsEnded();
-  if (kept_)
-    kept_->complete();
+  kept_.complete();
 }
 
 /// The end of an answer that nobody read to its end.

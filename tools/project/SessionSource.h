@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <istream>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,7 +22,7 @@ public:
   /// Starts the process; `projectName` is for messages. Throws Failure.
   SessionSource(std::filesystem::path executable, const std::filesystem::path& project, std::string projectName);
 
-  void keepAnswers() override { kept_.emplace(directory_.path()); }
+  void keepAnswers() override { kept_.keepIn(directory_.path()); }
 
 private:
   class Answer;
@@ -43,7 +42,7 @@ private:
   std::string projectName_;
   PrivateDirectory directory_;
   ChildProcess process_;
-  std::optional<AnswerStore> kept_;
+  AnswerStore kept_;
   Rest rest_ = Rest::none;
   std::array<char, std::size_t{1} << 16U> block_{};
 };
