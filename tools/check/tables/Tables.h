@@ -65,7 +65,7 @@ struct LegacyColumn {
 };
 
 /// The column of the ids in every table but the general settings.
-constexpr std::size_t idColumn = 0;
+inline constexpr std::size_t idColumn = 0;
 
 /// Which rows of a table the import takes, and as what.
 enum class Layout {

@@ -29,11 +29,11 @@ public:
   }
 
 private:
-  /// A large block seldom wakes the reader of a pipe, and a wake-up costs more than the copy of some thousand rows.
+  /// In bytes. Large, because each block wakes the reader of a pipe, which takes time.
   static constexpr std::size_t blockSize = std::size_t{256} * 1024;
 
   AnswerSink& sink_;
-  std::vector<char> buffer_; // small for the small answers, of which a project has many
+  std::vector<char> buffer_; // begins small, as most answers are
   std::size_t used_ = 0;
 };
 
